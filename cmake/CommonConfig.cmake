@@ -1,0 +1,11 @@
+# One place for compiler settings: every target links tallimark_options.
+# Figures must match to the last digit, so IEEE arithmetic stays exact: no fast-math,
+# no host-specific code generation, and no fused multiply-add contraction.
+add_library(tallimark_options INTERFACE)
+target_compile_features(tallimark_options INTERFACE cxx_std_20)
+target_compile_options(tallimark_options INTERFACE
+    -Wall -Wextra -Wpedantic -ffp-contract=off -fno-fast-math)
+if(TALLIMARK_SANITIZE)
+    target_compile_options(tallimark_options INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer)
+    target_link_options(tallimark_options INTERFACE -fsanitize=address,undefined)
+endif()

@@ -1,0 +1,56 @@
+// Every screen of the system by name, for the main frame's menus and the batch driver.
+#include "frame/Screens.h"
+
+#include "access/FrmPwd.h"
+#include "frame/EmptyScreen.h"
+#include "frame/Form.h"
+#include "frame/MDIForm1.h"
+#include "pricing/FrmCalc.h"
+
+#include <functional>
+#include <utility>
+
+namespace tallimark {
+
+namespace {
+using Maker = std::function<std::unique_ptr<Form>(App&)>;
+
+template <class F> std::pair<const char*, Maker> entry() {
+    return {F::kName, [](App& app) { return std::make_unique<F>(app); }};
+}
+
+std::pair<const char*, Maker> empty(const char* name, const char* caption) {
+    return {name, [name, caption](App& app) { return std::make_unique<EmptyScreen>(app, name, caption); }};
+}
+
+const std::vector<std::pair<const char*, Maker>>& registry() {
+    static const std::vector<std::pair<const char*, Maker>> all = {
+        entry<MDIForm1>(),
+        entry<FrmPwd1>(),
+        entry<FrmPwd>(),
+        entry<FrmCalc>(),
+        empty("FrmNewMainScreen", "Main Screen"),
+        empty("FrmNewScript", "New Sheet Detail.........By Tallimark"),
+        empty("FrmScriptMast", "Script Master ...Tallimark"),
+        empty("FrmCharges", "Charges.....Tallimark"),
+        empty("FrmUser", "Users....Tallimark"),
+    };
+    return all;
+}
+} // namespace
+
+std::unique_ptr<Form> makeScreen(App& app, const std::string& name) {
+    for (const auto& [n, make] : registry())
+        if (name == n)
+            return make(app);
+    return nullptr;
+}
+
+std::vector<std::string> screenNames() {
+    std::vector<std::string> names;
+    for (const auto& [n, make] : registry())
+        names.push_back(n);
+    return names;
+}
+
+} // namespace tallimark

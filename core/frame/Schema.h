@@ -1,0 +1,38 @@
+#pragma once
+// The store's tables, and the ready store a new desk starts from.
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace tallimark {
+
+class Store;
+
+namespace schema {
+
+enum class ColumnType { Text, Double, Long, Date };
+
+struct Column {
+    std::string name;
+    ColumnType type;
+};
+
+struct Table {
+    std::string name;
+    std::vector<Column> columns;
+};
+
+// Every table of the store with its columns in order.
+const std::vector<Table>& tables();
+
+// The user a ready store opens with.
+inline constexpr const char* kFirstUserName = "ADMIN";
+inline constexpr const char* kFirstUserPassword = "tallimark";
+
+// Creates the tables, their indexes and date handling in an empty store.
+void createTables(Store& store);
+// Makes a ready store file: the tables, the twelve months and the first user.
+void createReadyStore(const std::filesystem::path& file);
+
+} // namespace schema
+} // namespace tallimark

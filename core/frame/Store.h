@@ -1,0 +1,91 @@
+#pragma once
+// The one store connection (g_Conn) over a SQLite file. Statements arrive as text in the desk's
+// dialect (cdate, Mid, Round, `delete * from`, bracketed names) and are mapped by SqlDialect.
+#include "frame/Value.h"
+#include "frame/VbError.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct sqlite3;
+
+namespace tallimark {
+
+// A failure of the store: keeps the engine's error code and text.
+class StoreError : public VbError {
+public:
+    using VbError::VbError;
+};
+
+// The one quoting function for text values: "'" + text + "'". A text holding a single quote
+// would break its statement, so it is refused with the store's error before it reaches SQL;
+// no text can change what a statement means.
+std::string q(std::string_view text);
+
+// The rows of one query, read at once; moving and reading as a recordset does.
+class Recordset {
+public:
+    Recordset(std::vector<std::string> names, std::vector<std::vector<Value>> rows);
+    bool eof() const { return pos_ >= rows_.size(); }
+    bool bof() const { return rows_.empty() || pos_ == npos; }
+    void moveNext();
+    void movePrevious();
+    void moveFirst() { pos_ = 0; }
+    void moveLast() { pos_ = rows_.empty() ? 0 : rows_.size() - 1; }
+    size_t recordCount() const { return rows_.size(); }
+    size_t position() const { return pos_; }
+    void setPosition(size_t row) { pos_ = row; }
+    size_t fieldCount() const { return names_.size(); }
+    const std::string& fieldName(size_t i) const { return names_.at(i); }
+    // A column of the current row by name (case-insensitive) or index; raises at end of rows.
+    const Value& operator[](std::string_view name) const;
+    const Value& at(size_t column) const;
+    const Value& cell(size_t row, size_t column) const { return rows_.at(row).at(column); }
+
+private:
+    static constexpr size_t npos = static_cast<size_t>(-1);
+    std::vector<std::string> names_;
+    std::vector<std::vector<Value>> rows_;
+    size_t pos_ = 0;
+};
+
+class Store {
+public:
+    // Opens an existing store file; a missing file fails as the open of an unregistered source.
+    static std::unique_ptr<Store> open(const std::filesystem::path& file);
+    // Creates a new file and opens it (the ready-store command uses this).
+    static std::unique_ptr<Store> create(const std::filesystem::path& file);
+    ~Store();
+    Store(const Store&) = delete;
+    Store& operator=(const Store&) = delete;
+
+    void execute(std::string_view sql);
+    Recordset query(std::string_view sql);
+    // Plain SQLite, not mapped: schema work of the store itself.
+    void executeNative(std::string_view sql);
+    long long changes() const;
+    sqlite3* handle() { return db_; }
+
+private:
+    explicit Store(sqlite3* db);
+    sqlite3* db_;
+};
+
+// Groups the statements of one step so the store writes them at once. Commits in its destructor
+// as well: a failing statement leaves the earlier ones standing, as each would alone.
+class WriteGroup {
+public:
+    explicit WriteGroup(Store& store);
+    ~WriteGroup();
+    WriteGroup(const WriteGroup&) = delete;
+    WriteGroup& operator=(const WriteGroup&) = delete;
+
+private:
+    Store& store_;
+    bool active_;
+};
+
+} // namespace tallimark
