@@ -149,15 +149,20 @@ void Form::fire(const std::string& control, Event event) {
         --depth_;
         throw;
     } catch (const VbError& e) {
-        ui().msgBox({"Run-time error '" + std::to_string(e.number()) + "':\n\n" + e.text()});
+        runtimeErrorBox(e);
     } catch (const std::exception& e) {
-        ui().msgBox({std::string("Run-time error:\n\n") + e.what()});
+        runtimeErrorBox(VbError(440, e.what()));
     }
     --depth_;
     if (depth_ == 0) {
         applyPendingFocus();
         flush();
     }
+}
+
+void Form::runtimeErrorBox(const VbError& error) {
+    ui().msgBox({"Run-time error '" + std::to_string(error.number()) + "':\n\n" + error.text(), kAppTitle,
+                 MsgButtons::Ok, MsgIcon::Critical});
 }
 
 void Form::failureBox(const std::string& procedure, const std::exception& error, const char* numberWords) {
@@ -255,7 +260,7 @@ bool Form::requestClose() {
     try {
         dispatch("Form", e);
     } catch (const VbError& err) {
-        ui().msgBox({"Run-time error '" + std::to_string(err.number()) + "':\n\n" + err.text()});
+        runtimeErrorBox(err);
     }
     --depth_;
     if (e.cancel)

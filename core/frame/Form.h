@@ -15,6 +15,7 @@ namespace tallimark {
 
 class App;
 class Ui;
+class VbError;
 
 enum class ControlKind { TextBox, Label, Button, CheckBox, OptionButton, ComboBox, ListBox, DatePicker, Menu, Frame };
 
@@ -126,6 +127,8 @@ protected:
     Grid& addGrid(const std::string& name, int cols);
     using Handler = std::function<void(Event&)>;
     void on(const std::string& control, EventType type, Handler handler);
+    // The box of a run-time error that no procedure trapped.
+    void runtimeErrorBox(const VbError& error);
     // The failure box of a trapped procedure.
     void failureBox(const std::string& procedure, const std::exception& error, const char* numberWords = " and No: ");
 

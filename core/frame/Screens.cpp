@@ -5,7 +5,10 @@
 
 namespace tallimark {
 
+Screens::Screens(App& app) : app_(app) {}
 Screens::~Screens() = default;
+
+void Screens::collect() { graveyard_.clear(); }
 
 void Screens::adopt(std::unique_ptr<Form> form) {
     const std::string name = form->name();

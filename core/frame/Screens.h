@@ -12,7 +12,7 @@ class Form;
 
 class Screens {
 public:
-    explicit Screens(App& app) : app_(app) {}
+    explicit Screens(App& app);
     ~Screens();
 
     // A loaded screen, loading it on first use; raises for a name the system does not know.
@@ -26,7 +26,7 @@ public:
     std::vector<Form*> loaded();
     // Unload: the screen goes; it is destroyed once the event in hand has run (collect).
     void unload(const std::string& name);
-    void collect() { graveyard_.clear(); }
+    void collect();
 
 private:
     void adopt(std::unique_ptr<Form> form);
