@@ -25,20 +25,50 @@ size_t skipBlanks(std::string_view s, size_t i) {
     return i;
 }
 
+bool identChar(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; }
+
+// Left( and Right( are join words to SQLite; as functions they become leftstr( and rightstr(.
+std::string mapStringFunctions(std::string_view sql) {
+    std::string out;
+    out.reserve(sql.size() + 8);
+    bool quoted = false;
+    for (size_t i = 0; i < sql.size(); ++i) {
+        const char c = sql[i];
+        if (c == '\'') {
+            quoted = !quoted;
+        } else if (!quoted && (i == 0 || !identChar(sql[i - 1]))) {
+            for (std::string_view word : {std::string_view("left"), std::string_view("right")}) {
+                if (wordAt(sql, i, word) && (i + word.size() >= sql.size() || !identChar(sql[i + word.size()]))) {
+                    const size_t paren = skipBlanks(sql, i + word.size());
+                    if (paren < sql.size() && sql[paren] == '(') {
+                        out.append(sql.substr(i, word.size())).append("str");
+                        i += word.size() - 1;
+                        goto next;
+                    }
+                }
+            }
+        }
+        out.push_back(c);
+    next:;
+    }
+    return out;
+}
+
 } // namespace
 
 std::string toSqlite(std::string_view sql) {
+    std::string mapped = mapStringFunctions(sql);
     // Only the leading verb can carry the star: `delete * from X`.
-    const size_t verb = skipBlanks(sql, 0);
-    if (!wordAt(sql, verb, "delete"))
-        return std::string(sql);
-    const size_t star = skipBlanks(sql, verb + 6);
-    if (star >= sql.size() || sql[star] != '*')
-        return std::string(sql);
-    const size_t from = skipBlanks(sql, star + 1);
-    if (!wordAt(sql, from, "from"))
-        return std::string(sql);
-    return std::string(sql.substr(0, verb)) + "delete " + std::string(sql.substr(from));
+    const size_t verb = skipBlanks(mapped, 0);
+    if (!wordAt(mapped, verb, "delete"))
+        return mapped;
+    const size_t star = skipBlanks(mapped, verb + 6);
+    if (star >= mapped.size() || mapped[star] != '*')
+        return mapped;
+    const size_t from = skipBlanks(mapped, star + 1);
+    if (!wordAt(mapped, from, "from"))
+        return mapped;
+    return mapped.substr(0, verb) + "delete " + mapped.substr(from);
 }
 
 namespace {
@@ -85,6 +115,14 @@ void leftFn(sqlite3_context* ctx, int, sqlite3_value** argv) {
     setText(ctx, argText(argv[0]).substr(0, static_cast<size_t>(n)));
 }
 
+void rightFn(sqlite3_context* ctx, int, sqlite3_value** argv) {
+    if (sqlite3_value_type(argv[0]) == SQLITE_NULL)
+        return sqlite3_result_null(ctx);
+    const std::string s = argText(argv[0]);
+    const size_t n = static_cast<size_t>(std::max<sqlite3_int64>(0, sqlite3_value_int64(argv[1])));
+    setText(ctx, n >= s.size() ? s : s.substr(s.size() - n));
+}
+
 void roundFn(sqlite3_context* ctx, int argc, sqlite3_value** argv) {
     if (sqlite3_value_type(argv[0]) == SQLITE_NULL)
         return sqlite3_result_null(ctx);
@@ -111,7 +149,8 @@ void registerFunctions(sqlite3* db) {
     sqlite3_create_function(db, "cdate", 1, flags, nullptr, cdateFn, nullptr, nullptr);
     sqlite3_create_function(db, "mid", 2, flags, nullptr, midFn, nullptr, nullptr);
     sqlite3_create_function(db, "mid", 3, flags, nullptr, midFn, nullptr, nullptr);
-    sqlite3_create_function(db, "left", 2, flags, nullptr, leftFn, nullptr, nullptr);
+    sqlite3_create_function(db, "leftstr", 2, flags, nullptr, leftFn, nullptr, nullptr);
+    sqlite3_create_function(db, "rightstr", 2, flags, nullptr, rightFn, nullptr, nullptr);
     sqlite3_create_function(db, "round", 1, flags, nullptr, roundFn, nullptr, nullptr);
     sqlite3_create_function(db, "round", 2, flags, nullptr, roundFn, nullptr, nullptr);
     sqlite3_create_function(db, "ucase", 1, flags, nullptr, ucaseFn, nullptr, nullptr);

@@ -1,0 +1,146 @@
+#include "TestDesk.h"
+
+#include "frame/Schema.h"
+#include "frame/Store.h"
+
+#include <gtest/gtest.h>
+
+using namespace tallimark;
+
+namespace {
+
+std::vector<std::string> columnsOf(Store& store, const std::string& table) {
+    Recordset rs = store.query("select * from " + table);
+    std::vector<std::string> names;
+    for (size_t i = 0; i < rs.fieldCount(); ++i)
+        names.push_back(rs.fieldName(i));
+    return names;
+}
+
+long long count(Store& store, const std::string& sql) { return store.query(sql).at(0).number(); }
+
+} // namespace
+
+TEST(ReadyStore, HoldsEveryTableTheMonthsAndOneUser) {
+    test::Desk desk;
+    Store& store = desk.app.store();
+    for (const char* table :
+         {"ScriptMast", "MonthCheck", "Trans", "PortfolioMast", "PortfolioDet", "Tracker", "DummyTracker",
+          "UploadTracker", "FutOpt", "Eq", "UploadFile", "DumUploadFile", "Charges", "Closing", "Users", "ExpTemp",
+          "CallSummary1", "Call1", "FutStkSumDet"})
+        EXPECT_NO_THROW(store.query("select * from " + std::string(table))) << table;
+    EXPECT_EQ(columnsOf(store, "PortfolioMast").size(), 56u);
+    EXPECT_EQ(columnsOf(store, "PortfolioMast").back(), "Field1");
+    EXPECT_EQ(columnsOf(store, "PortfolioDet").size(), 20u);
+    EXPECT_EQ(columnsOf(store, "Closing").size(), 35u);
+
+    EXPECT_EQ(count(store, "select count(*) from MonthCheck"), 12);
+    Recordset feb = store.query("Select * From MonthCheck where MonthCheck.Mnth = 'FEBRUARY'");
+    EXPECT_EQ(feb["FCode"].text(), "G");
+    EXPECT_EQ(feb["SCode"].text(), "B");
+    EXPECT_EQ(feb["Days"].number(), 28);
+
+    Recordset users = store.query("select * from Users");
+    ASSERT_EQ(users.recordCount(), 1u);
+    EXPECT_EQ(users["UserNm"].text(), schema::kFirstUserName);
+    for (const char* empty : {"Trans", "ScriptMast", "Tracker", "Charges", "Closing"})
+        EXPECT_EQ(count(store, std::string("select count(*) from ") + empty), 0) << empty;
+}
+
+TEST(ReadyStore, TrackerTablesShareOneShapeSoRowsCopyByPosition) {
+    test::Desk desk;
+    Store& store = desk.app.store();
+    EXPECT_EQ(columnsOf(store, "Tracker"), columnsOf(store, "DummyTracker"));
+    EXPECT_EQ(columnsOf(store, "Tracker"), columnsOf(store, "UploadTracker"));
+    EXPECT_EQ(columnsOf(store, "UploadFile"), columnsOf(store, "DumUploadFile"));
+
+    store.execute("insert into Tracker (InType, InDesc, Symbol, Units, Traded, Strike, CP, TradeDt, Field3) values "
+                  "('S', 'Desc', 'ACCK2026', -50, 12.5, 300, 'C', cdate('23-Nov-2026'), '10:15')");
+    store.execute("insert into dummytracker select * from tracker where symbol = 'ACCK2026'");
+    store.execute("insert into UploadTracker select * from dummytracker");
+    Recordset rs = store.query("select * from UploadTracker");
+    ASSERT_EQ(rs.recordCount(), 1u);
+    EXPECT_EQ(rs["Units"].number(), -50);
+    EXPECT_EQ(rs["Traded"].number(), 12.5);
+    EXPECT_EQ(rs["CP"].text(), "C");
+    EXPECT_EQ(rs["Field3"].text(), "10:15");
+    EXPECT_EQ(rs["TradeDt"].date(), VbDate::fromYmd(2026, 11, 23));
+}
+
+TEST(StoreDialect, TheDesksSqlRunsOnTheStore) {
+    test::Desk desk;
+    Store& store = desk.app.store();
+    store.execute("insert into ScriptMast (ScrCode, ScrName, Field2) values ('ACC', 'ACC LTD', 250)");
+    // Mid, bracketed names and text compared without regard to case.
+    Recordset rs = store.query("select ScrName as [NAME] from ScriptMast where ScrCode = Mid('acck2026', 1, 3)");
+    ASSERT_FALSE(rs.eof());
+    EXPECT_EQ(rs["NAME"].text(), "ACC LTD");
+    EXPECT_EQ(rs["name"].text(), "ACC LTD");
+    EXPECT_EQ(store.query("select left(ScrName, 3) as L, Right (ScrName,3) as R from ScriptMast where "
+                          "ScrName = 'acc ltd'")["R"].text(),
+              "LTD");
+    EXPECT_EQ(store.query("select * from ScriptMast where left(ScrCode,2 )='AC'").recordCount(), 1u);
+
+    // Round goes to even, also inside SQL; Avg of no rows is null.
+    store.execute("insert into DummyTracker (Symbol, InDesc, Field2) values ('X', 'D', 2.5)");
+    store.execute("insert into DummyTracker (Symbol, InDesc, Field2) values ('X', 'D', 2.25)");
+    EXPECT_EQ(store.query("Select Round(Avg(field2),2) as avgVol From DummyTracker")["avgVol"].number(), 2.38);
+    EXPECT_EQ(store.query("select round(2.5) as r")["r"].number(), 2);
+    EXPECT_TRUE(store.query("select avg(field2) as a from DummyTracker where symbol = 'none'")["a"].isNull());
+
+    store.execute("delete * from DummyTracker where Symbol = 'X'");
+    EXPECT_EQ(count(store, "select count(*) from DummyTracker"), 0);
+}
+
+TEST(StoreDialect, DateColumnsReadAndCompareAsDatesWhateverTextTheyGot) {
+    test::Desk desk;
+    Store& store = desk.app.store();
+    // A plain date text, with the blank that one insert leaves inside the quotes.
+    store.execute("INSERT INTO DumUploadfile (tradedt,futstk,equity,symbol,Indesc)VALUES( '23-Nov-2026 ', 'f.txt','',"
+                  "'ACCK2026','D')");
+    store.execute("insert into DumUploadFile (TradeDt, Symbol, InDesc) values ('24-11-2026', 'ACCK2026', 'D')");
+    EXPECT_EQ(count(store, "select count(*) as Cnt from DumUploadfile where symbol ='ACCK2026' and tradedt= "
+                           "CDate('23-Nov-2026')"),
+              1);
+    EXPECT_EQ(count(store, "select count(*) from DumUploadFile where TradeDt > cdate('23-11-2026')"), 1);
+    Recordset rs = store.query("select * from DumUploadFile order by TradeDt desc");
+    EXPECT_EQ(rs["TradeDt"].date(), VbDate::fromYmd(2026, 11, 24));
+    EXPECT_EQ(rs["TradeDt"].text(), "24-11-2026");
+
+    // Closing.Dt is text and compares as text; cdate(Dt) orders by the date.
+    store.execute("insert into Closing (Symbol, Descr, Dt, ClBal) values ('S', 'D', '30-10-2026', 1)");
+    store.execute("insert into Closing (Symbol, Descr, Dt, ClBal) values ('S', 'D', '02-11-2026', 2)");
+    EXPECT_EQ(store.query("select Dt from Closing order by Dt desc")["Dt"].text(), "30-10-2026");
+    EXPECT_EQ(store.query("SELECT clBal AS OpBal From Closing WHERE cdate(DT) < CDATE('03-11-2026') order by "
+                          "cdate(Dt) desc")["OpBal"]
+                  .number(),
+              2);
+}
+
+TEST(StoreDialect, AQuoteInATextBreaksOnlyItsOwnStatement) {
+    test::Desk desk;
+    Store& store = desk.app.store();
+    try {
+        store.execute("insert into Users (UserCd, UserNm, Pwd) values ('2', " + q("O'BRIEN") + ", 'x')");
+        FAIL() << "a quoted text with a quote must not reach the store";
+    } catch (const StoreError& e) {
+        EXPECT_NE(std::string(e.what()).find("O'BRIEN"), std::string::npos);
+    }
+    // Nothing that a text holds can change what a statement means.
+    EXPECT_THROW(store.query("select * from Users where UserNm = " + q("x' or '1'='1")), StoreError);
+    EXPECT_EQ(count(store, "select count(*) from Users"), 1);
+    EXPECT_EQ(q("NIFTY"), "'NIFTY'");
+}
+
+TEST(StoreDialect, StoreErrorsKeepTheEnginesCodeAndText) {
+    test::Desk desk;
+    try {
+        desk.app.store().execute("insert into NoSuchTable values (1)");
+        FAIL();
+    } catch (const StoreError& e) {
+        EXPECT_EQ(e.number(), 1); // SQLITE_ERROR
+        EXPECT_NE(std::string(e.what()).find("NoSuchTable"), std::string::npos);
+    }
+    EXPECT_THROW(desk.app.store().execute("insert into Users (UserCd) values ('1')"), StoreError); // the key
+    EXPECT_THROW(Store::open(desk.dir.path() / "missing.db"), StoreError);
+}
