@@ -1,0 +1,137 @@
+// The batch driver end to end: the real executable, a ready store and scripts of user actions.
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <random>
+#include <sstream>
+#include <string>
+#include <sys/wait.h>
+#include <vector>
+
+namespace {
+
+struct Outcome {
+    int exitCode = -1;
+    std::vector<std::string> lines;
+    std::string all() const {
+        std::string s;
+        for (const auto& l : lines)
+            s += l + "\n";
+        return s;
+    }
+};
+
+class BatchDesk : public ::testing::Test {
+protected:
+    void SetUp() override {
+        std::random_device rd;
+        dir_ = std::filesystem::temp_directory_path() / ("tallimark-batch-" + std::to_string(rd()));
+        std::filesystem::create_directories(dir_);
+        ASSERT_EQ(run("--data " + dir_.string() + " --new-store").exitCode, 0);
+    }
+    void TearDown() override { std::filesystem::remove_all(dir_); }
+
+    Outcome run(const std::string& args) {
+        Outcome r;
+        const std::string cmd = std::string(TALLIMARK_BATCH_EXE) + " " + args + " 2>&1";
+        FILE* p = popen(cmd.c_str(), "r");
+        std::array<char, 4096> buf{};
+        std::string out;
+        while (size_t n = fread(buf.data(), 1, buf.size(), p))
+            out.append(buf.data(), n);
+        const int status = pclose(p);
+        r.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        std::istringstream in(out);
+        for (std::string line; std::getline(in, line);)
+            r.lines.push_back(line);
+        return r;
+    }
+
+    Outcome script(const std::string& text) {
+        const auto file = dir_ / "script.txt";
+        std::ofstream(file) << text;
+        return run("--data " + dir_.string() + " --today 2026-11-23 " + file.string());
+    }
+
+    std::filesystem::path dir_;
+};
+
+bool contains(const std::string& s, const std::string& part) { return s.find(part) != std::string::npos; }
+
+} // namespace
+
+TEST_F(BatchDesk, CalculatorDefaultsAndADivisionByZero) {
+    const Outcome r = script("login ADMIN tallimark\n"
+                         "menu MDIForm1.mnucalc\n"
+                         "click FrmCalc.Command1\n"
+                         "dump FrmCalc\n"
+                         "set FrmCalc.Text3 0\n"
+                         "click FrmCalc.Command1\n"
+                         "dump FrmCalc\n");
+    ASSERT_EQ(r.exitCode, 0) << r.all();
+    ASSERT_EQ(r.lines.size(), 3u) << r.all();
+    EXPECT_TRUE(contains(r.lines[0], R"("Text6":{"text":"12.5941")")) << r.lines[0];
+    EXPECT_TRUE(contains(r.lines[0], R"("Text9":{"text":"-0.0909")"));
+    EXPECT_TRUE(contains(r.lines[0], R"("caption":"Calculator")"));
+    EXPECT_EQ(r.lines[1], R"({"msgbox":{"title":"Tallimark","text":"Run-time error '11':\n\nDivision by zero",)"
+                          R"("icon":"critical","buttons":"OK","answer":"OK"}})");
+    EXPECT_TRUE(contains(r.lines[2], R"("Text3":{"text":"0"})"));
+    EXPECT_TRUE(contains(r.lines[2], R"("Text6":{"text":"12.5941")")) << "the outputs keep what they had";
+}
+
+TEST_F(BatchDesk, TheLoginTakesTheLinesUntilItHides) {
+    const Outcome r = script("set FrmPwd1.txt_user_name ADMIN\n"
+                         "set FrmPwd1.txt_password wrong\n"
+                         "click FrmPwd1.cmdokcan(0)\n"
+                         "dump FrmPwd1\n"
+                         "set FrmPwd1.txt_user_name \"  ADMIN  \"\n"
+                         "set FrmPwd1.txt_password tallimark\n"
+                         "click FrmPwd1.cmdokcan(0)\n"
+                         "dump MDIForm1\n");
+    ASSERT_EQ(r.exitCode, 0) << r.all();
+    ASSERT_EQ(r.lines.size(), 3u) << r.all();
+    EXPECT_TRUE(contains(r.lines[0], R"("title":"Invalid Login","text":"You Are Not a Valid User","icon":"critical")"));
+    EXPECT_TRUE(contains(r.lines[1], R"("txt_user_name":{"text":""})")) << r.lines[1];
+    EXPECT_TRUE(contains(r.lines[1], R"("visible":true)"));
+    EXPECT_TRUE(contains(r.lines[2], R"({"dump":"MDIForm1")"));
+}
+
+TEST_F(BatchDesk, QueuedAnswersAndTheEndOfTheProgram) {
+    const Outcome r = script("login ADMIN tallimark\n"
+                         "answer No\n"
+                         "close MDIForm1\n"
+                         "dump FrmCalc\n");
+    ASSERT_EQ(r.exitCode, 0) << r.all();
+    EXPECT_EQ(r.lines, std::vector<std::string>{R"({"end":true})"}) << "nothing runs after End";
+}
+
+TEST_F(BatchDesk, ScriptFaultsStopWithTheLineThatFailed) {
+    struct Case {
+        const char* line;
+        const char* message;
+    } cases[] = {
+        {"click FrmCalc.NoSuchButton", "line 2: no control NoSuchButton on FrmCalc"},
+        {"open FrmNothing", "line 2: Object required: no screen named FrmNothing"},
+        {"jump FrmCalc", "line 2: unknown action jump"},
+        {"key FrmCalc.Text1 enter", "line 2: not a whole number: enter"},
+    };
+    for (const auto& c : cases) {
+        const Outcome r = script(std::string("login ADMIN tallimark\n") + c.line + "\n");
+        EXPECT_EQ(r.exitCode, 1) << c.line;
+        EXPECT_TRUE(contains(r.all(), c.message)) << r.all();
+    }
+    const Outcome unfinished = script("set FrmPwd1.txt_user_name ADMIN\n");
+    EXPECT_EQ(unfinished.exitCode, 1);
+    EXPECT_TRUE(contains(unfinished.all(), "ended while FrmPwd1 was shown modally")) << unfinished.all();
+}
+
+TEST_F(BatchDesk, UsageAndStoreErrors) {
+    EXPECT_EQ(run("").exitCode, 2);
+    EXPECT_EQ(run("--data " + dir_.string() + " --today 23/11 -").exitCode, 2);
+    EXPECT_EQ(run("--data " + dir_.string() + " --new-store").exitCode, 1) << "an existing store is kept";
+    const Outcome missing = run("--data " + (dir_ / "none").string() + " -");
+    EXPECT_EQ(missing.exitCode, 1);
+    EXPECT_TRUE(contains(missing.all(), "Error in Main Procedure: ")) << missing.all();
+}
