@@ -68,38 +68,31 @@ std::string jsonUnquote(std::string_view s) {
 }
 
 std::string boxJson(const ShownBox& shown) {
-    return "{\"msgbox\":{\"title\":" + jsonString(shown.box.title) + ",\"text\":" + jsonString(shown.box.text) +
-           ",\"icon\":" + jsonString(iconName(shown.box.icon)) + ",\"buttons\":" +
-           jsonString(buttonsName(shown.box.buttons)) + ",\"answer\":" + jsonString(answerName(shown.answer)) + "}}";
+    return "{\"msgbox\":{\"title\":" + jsonString(shown.box.title) +
+           ",\"text\":" + jsonString(shown.box.text) + ",\"icon\":" + jsonString(iconName(shown.box.icon)) +
+           ",\"buttons\":" + jsonString(buttonsName(shown.box.buttons)) +
+           ",\"answer\":" + jsonString(answerName(shown.answer)) + "}}";
 }
 
 namespace {
 
 std::string controlJson(const Control& c) {
     std::string s = "{\"text\":" + jsonString(c.text);
-    if (c.foreColor)
-        s += ",\"fore\":" + jsonString(colorText(*c.foreColor));
+    if (c.foreColor) s += ",\"fore\":" + jsonString(colorText(*c.foreColor));
     if (c.kind == ControlKind::CheckBox || c.kind == ControlKind::OptionButton)
         s += std::string(",\"value\":") + (c.value ? "true" : "false");
-    if (!c.enabled)
-        s += ",\"enabled\":false";
-    if (c.locked)
-        s += ",\"locked\":true";
-    if (!c.visible)
-        s += ",\"visible\":false";
+    if (!c.enabled) s += ",\"enabled\":false";
+    if (c.locked) s += ",\"locked\":true";
+    if (!c.visible) s += ",\"visible\":false";
     return s + "}";
 }
 
 std::string cellJson(const Cell& cell, bool withCheck) {
-    if (!cell.fore && !cell.back && !withCheck)
-        return jsonString(cell.text);
+    if (!cell.fore && !cell.back && !withCheck) return jsonString(cell.text);
     std::string s = "{\"text\":" + jsonString(cell.text);
-    if (cell.fore)
-        s += ",\"fore\":" + jsonString(colorText(*cell.fore));
-    if (cell.back)
-        s += ",\"back\":" + jsonString(colorText(*cell.back));
-    if (withCheck)
-        s += std::string(",\"checked\":") + (cell.checked ? "true" : "false");
+    if (cell.fore) s += ",\"fore\":" + jsonString(colorText(*cell.fore));
+    if (cell.back) s += ",\"back\":" + jsonString(colorText(*cell.back));
+    if (withCheck) s += std::string(",\"checked\":") + (cell.checked ? "true" : "false");
     return s + "}";
 }
 
@@ -111,8 +104,8 @@ std::string gridJson(const Grid& g) {
             s += (c > 1 ? "," : "") + cellJson(g.cell(r, c), g.checkBoxes && c == 1);
         s += "]";
     }
-    return s + "],\"activeRow\":" + std::to_string(g.activeRow) + ",\"activeCol\":" + std::to_string(g.activeCol) +
-           "}";
+    return s + "],\"activeRow\":" + std::to_string(g.activeRow) +
+           ",\"activeCol\":" + std::to_string(g.activeCol) + "}";
 }
 
 } // namespace
@@ -122,11 +115,9 @@ std::string formJson(Form& form) {
                     ",\"visible\":" + (form.visible() ? "true" : "false") + ",\"fields\":{";
     bool first = true;
     for (const std::string& name : form.controlOrder()) {
-        if (!form.hasControl(name))
-            continue;
+        if (!form.hasControl(name)) continue;
         const Control& c = form.control(name);
-        if (c.kind == ControlKind::Menu || c.kind == ControlKind::Frame)
-            continue;
+        if (c.kind == ControlKind::Menu || c.kind == ControlKind::Frame) continue;
         s += (first ? "" : ",") + jsonString(name) + ":" + controlJson(c);
         first = false;
     }

@@ -19,11 +19,9 @@ std::string restAfter(const std::string& line, int words) {
         while (i < line.size() && line[i] != ' ')
             ++i;
     }
-    if (i < line.size())
-        ++i; // the one blank that parts the text from the words
+    if (i < line.size()) ++i; // the one blank that parts the text from the words
     std::string rest = line.substr(std::min(i, line.size()));
-    if (!rest.empty() && rest.front() == '"')
-        return jsonUnquote(rest);
+    if (!rest.empty() && rest.front() == '"') return jsonUnquote(rest);
     return rest;
 }
 
@@ -31,8 +29,7 @@ int toInt(const std::string& word, int line) {
     try {
         size_t used = 0;
         const int v = std::stoi(word, &used);
-        if (used == word.size())
-            return v;
+        if (used == word.size()) return v;
     } catch (const std::exception&) {
     }
     throw ScriptError(line, "not a whole number: " + word);
@@ -54,8 +51,7 @@ void ScriptDriver::run() {
 void ScriptDriver::runUntilHidden(Form& form) {
     const std::string name = form.name();
     while (app_.screens().find(name) == &form && form.visible()) {
-        if (!step())
-            throw ScriptError(lineNo_, "the script ended while " + name + " was shown modally");
+        if (!step()) throw ScriptError(lineNo_, "the script ended while " + name + " was shown modally");
     }
 }
 
@@ -63,11 +59,9 @@ bool ScriptDriver::step() {
     std::string line;
     while (std::getline(in_, line)) {
         ++lineNo_;
-        if (!line.empty() && line.back() == '\r')
-            line.pop_back();
+        if (!line.empty() && line.back() == '\r') line.pop_back();
         const size_t first = line.find_first_not_of(' ');
-        if (first == std::string::npos || line[first] == '#')
-            continue;
+        if (first == std::string::npos || line[first] == '#') continue;
         perform(line.substr(first));
         app_.screens().collect();
         return true;
@@ -78,8 +72,7 @@ bool ScriptDriver::step() {
 Form& ScriptDriver::formOf(const std::string& target) {
     const std::string name = target.substr(0, target.find('.'));
     try {
-        if (Form* f = app_.screens().find(name))
-            return *f;
+        if (Form* f = app_.screens().find(name)) return *f;
         return app_.screens().get(name);
     } catch (const VbError& e) {
         throw ScriptError(lineNo_, e.text());
@@ -88,8 +81,7 @@ Form& ScriptDriver::formOf(const std::string& target) {
 
 std::string ScriptDriver::controlOf(const std::string& target) {
     const size_t dot = target.find('.');
-    if (dot == std::string::npos)
-        throw ScriptError(lineNo_, "expected FORM.CONTROL, got " + target);
+    if (dot == std::string::npos) throw ScriptError(lineNo_, "expected FORM.CONTROL, got " + target);
     return target.substr(dot + 1);
 }
 
@@ -99,8 +91,7 @@ void ScriptDriver::perform(const std::string& line) {
     words >> verb >> target;
     auto arg = [&](const char* what) {
         std::string w;
-        if (!(words >> w))
-            throw ScriptError(lineNo_, std::string("missing ") + what + " in: " + line);
+        if (!(words >> w)) throw ScriptError(lineNo_, std::string("missing ") + what + " in: " + line);
         return w;
     };
     auto needControl = [&](Form& form, const std::string& control) {
@@ -139,16 +130,14 @@ void ScriptDriver::perform(const std::string& line) {
         Event e{EventType::KeyDown};
         e.keyCode = toInt(arg("key code"), lineNo_);
         std::string shift;
-        if (words >> shift)
-            e.shift = toInt(shift, lineNo_);
+        if (words >> shift) e.shift = toInt(shift, lineNo_);
         form.fire(control, e);
     } else if (verb == "fire") {
         Form& form = formOf(target);
         const std::string control = controlOf(target);
         const std::string name = arg("event");
         const auto type = eventFromName(name);
-        if (!type)
-            throw ScriptError(lineNo_, "no event " + name);
+        if (!type) throw ScriptError(lineNo_, "no event " + name);
         Event e{*type};
         std::string a1, a2;
         if (words >> a1) {
@@ -157,8 +146,7 @@ void ScriptDriver::perform(const std::string& line) {
                 e.keyAscii = v;
             else
                 e.keyCode = v;
-            if (words >> a2)
-                e.shift = toInt(a2, lineNo_);
+            if (words >> a2) e.shift = toInt(a2, lineNo_);
         }
         form.fire(control, e);
     } else if (verb == "focus") {
@@ -186,8 +174,7 @@ void ScriptDriver::perform(const std::string& line) {
         if (row < 1 || col < 1 || col > grid->maxCols())
             throw ScriptError(lineNo_, "no cell " + std::to_string(row) + "," + std::to_string(col));
         if (verb == "cell") {
-            if (row > grid->maxRows())
-                grid->setMaxRows(row);
+            if (row > grid->maxRows()) grid->setMaxRows(row);
             grid->setText(row, col, restAfter(line, 4));
             form.flush();
         } else {
@@ -200,8 +187,7 @@ void ScriptDriver::perform(const std::string& line) {
         }
     } else if (verb == "answer") {
         const auto answer = answerFromName(target);
-        if (!answer)
-            throw ScriptError(lineNo_, "no answer " + target);
+        if (!answer) throw ScriptError(lineNo_, "no answer " + target);
         ui_.queueAnswer(*answer);
     } else if (verb == "file") {
         ui_.queueFile(target == "cancel" ? std::nullopt : std::optional<std::string>(restAfter(line, 1)));

@@ -16,7 +16,8 @@ class Form;
 // A line the driver cannot carry out: the script stops there.
 class ScriptError : public std::runtime_error {
 public:
-    ScriptError(int line, const std::string& what) : std::runtime_error("line " + std::to_string(line) + ": " + what) {}
+    ScriptError(int line, const std::string& what)
+        : std::runtime_error("line " + std::to_string(line) + ": " + what) {}
 };
 
 class ScriptDriver {
@@ -28,7 +29,7 @@ public:
     void run();
 
 private:
-    bool step();                    // one line; false at the end of the script
+    bool step();                     // one line; false at the end of the script
     void runUntilHidden(Form& form); // a modal screen's share of the script
     void perform(const std::string& line);
     Form& formOf(const std::string& target);

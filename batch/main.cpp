@@ -47,8 +47,7 @@ int main(int argc, char** argv) {
         std::cout << "ready store made in " << dataDir << "\n";
         return 0;
     }
-    if (script.empty())
-        return usage();
+    if (script.empty()) return usage();
 
     Clock clock;
     if (!today.empty()) {
@@ -73,8 +72,7 @@ int main(int argc, char** argv) {
     App app(ui, clock, dataDir);
     ScriptDriver driver(app, ui, in, std::cout);
     try {
-        if (!StartUp(app))
-            return 1;
+        if (!StartUp(app)) return 1;
         driver.run();
     } catch (const ProgramEnd&) {
         std::cout << "{\"end\":true}\n";

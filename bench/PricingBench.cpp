@@ -10,12 +10,14 @@ namespace {
 using namespace tallimark::pricing;
 
 // An at-the-money call with twenty days to run.
-TreeArgs typicalRow() { return {1000, 1000, treeYears(20, kHalfYear360), 0.07, 0.3, 0.1, 100, OptionSide::Call}; }
+TreeArgs typicalRow() {
+    return {1000, 1000, treeYears(20, kHalfYear360), 0.07, 0.3, 0.1, 100, OptionSide::Call};
+}
 
 // Time per tree rather than per iteration.
 void perTree(benchmark::State& state, double trees) {
-    state.counters["per_tree"] =
-        benchmark::Counter(trees, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    state.counters["per_tree"] = benchmark::Counter(trees, benchmark::Counter::kIsIterationInvariantRate |
+                                                               benchmark::Counter::kInvert);
 }
 
 void BM_PlainTree(benchmark::State& state) {
@@ -57,10 +59,14 @@ void BM_StockLadderTrees(benchmark::State& state) {
         for (int k = 0; k < 100; ++k) {
             in.K = 500 + 10 * k;
             const TreeClocks c = ladderClocks(in);
-            benchmark::DoNotOptimize(engine.CalcBinomial(in.S, in.K, c.T, in.r, in.sigmaC, 0.1, 100, OptionSide::Call));
-            benchmark::DoNotOptimize(engine.CalcBinomialNext(in.S, in.K, c.T1, in.r, in.sigmaC, 0.1, 100, OptionSide::Call));
-            benchmark::DoNotOptimize(engine.CalcBinomial(in.S, in.K, c.T, in.r, in.sigmaP, 0.1, 100, OptionSide::Put));
-            benchmark::DoNotOptimize(engine.CalcBinomialNext(in.S, in.K, c.T1, in.r, in.sigmaP, 0.1, 100, OptionSide::Put));
+            benchmark::DoNotOptimize(
+                engine.CalcBinomial(in.S, in.K, c.T, in.r, in.sigmaC, 0.1, 100, OptionSide::Call));
+            benchmark::DoNotOptimize(
+                engine.CalcBinomialNext(in.S, in.K, c.T1, in.r, in.sigmaC, 0.1, 100, OptionSide::Call));
+            benchmark::DoNotOptimize(
+                engine.CalcBinomial(in.S, in.K, c.T, in.r, in.sigmaP, 0.1, 100, OptionSide::Put));
+            benchmark::DoNotOptimize(
+                engine.CalcBinomialNext(in.S, in.K, c.T1, in.r, in.sigmaP, 0.1, 100, OptionSide::Put));
         }
     }
     perTree(state, 400);

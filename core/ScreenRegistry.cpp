@@ -41,8 +41,7 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
 
 std::unique_ptr<Form> makeScreen(App& app, const std::string& name) {
     for (const auto& [n, make] : registry())
-        if (name == n)
-            return make(app);
+        if (name == n) return make(app);
     return nullptr;
 }
 

@@ -9,12 +9,14 @@ namespace tallimark {
 namespace {
 const char* const kChangeCaption = "C&hange password";
 const char* const kSetCaption = "&Set password";
-const char* const kNewFields[] = {"lbl_new_user_name", "txt_new_user_name", "lbl_new_password", "txt_new_password"};
+const char* const kNewFields[] = {"lbl_new_user_name", "txt_new_user_name", "lbl_new_password",
+                                  "txt_new_password"};
 constexpr int kGrownHeight = 3200; // room for the new name and password
 } // namespace
 
 FrmPwdBase::FrmPwdBase(App& app, const char* name, bool readsUserName, int h, int w)
-    : Form(app, name, "Login"), height(h), width(w), readsUserName_(readsUserName), baseHeight_(h), baseWidth_(w) {
+    : Form(app, name, "Login"), height(h), width(w), readsUserName_(readsUserName), baseHeight_(h),
+      baseWidth_(w) {
     addControl(ControlKind::Label, "lbl_heading", "LOGIN ENTRY");
     addControl(ControlKind::Frame, "Frame1");
     addControl(ControlKind::Label, "lbl_user_name", "User Name");
@@ -49,8 +51,7 @@ FrmPwdBase::FrmPwdBase(App& app, const char* name, bool readsUserName, int h, in
 
 void FrmPwdBase::rejectLogin(const char* title, bool clearBoth) {
     ui().msgBox({"You Are Not a Valid User", title, MsgButtons::Ok, MsgIcon::Critical});
-    if (clearBoth)
-        setText("txt_user_name", "");
+    if (clearBoth) setText("txt_user_name", "");
     setText("txt_password", "");
     setFocus("txt_user_name");
 }
@@ -60,13 +61,13 @@ void FrmPwdBase::okClick() {
         rejectLogin("Incorrect Login", false);
         return;
     }
-    Recordset rs = app().store().query("Select * from Users Where UserNm = " + q(Trim(text("txt_user_name"))) +
-                                       " and Pwd = " + q(Trim(text("txt_password"))));
+    Recordset rs =
+        app().store().query("Select * from Users Where UserNm = " + q(Trim(text("txt_user_name"))) +
+                            " and Pwd = " + q(Trim(text("txt_password"))));
     if (!rs.eof()) {
         Session& s = app().session();
         s.g_UserCode = Trim(rs["UserCd"].textOrEmpty());
-        if (readsUserName_)
-            s.g_UserName = Trim(rs["Usernm"].textOrEmpty());
+        if (readsUserName_) s.g_UserName = Trim(rs["Usernm"].textOrEmpty());
         hide();
         return;
     }
@@ -76,16 +77,15 @@ void FrmPwdBase::okClick() {
 void FrmPwdBase::showNewFields(bool shown) {
     for (const char* n : kNewFields) {
         setVisible(n, shown);
-        if (shown && control(n).kind == ControlKind::TextBox)
-            setText(n, "");
+        if (shown && control(n).kind == ControlKind::TextBox) setText(n, "");
     }
 }
 
 void FrmPwdBase::changePasswordClick() {
     try {
-        Recordset rs = app().store().query("Select * from Users Where UserNm = " +
-                                           q(Trim(text("txt_user_name"))) + " and Pwd=" +
-                                           q(Trim(text("txt_password"))));
+        Recordset rs =
+            app().store().query("Select * from Users Where UserNm = " + q(Trim(text("txt_user_name"))) +
+                                " and Pwd=" + q(Trim(text("txt_password"))));
         if (!rs.eof()) {
             setEnabled("cmdokcan(0)", false);
             setEnabled("cmdokcan(1)", false);
@@ -112,8 +112,8 @@ void FrmPwdBase::setPasswordClick() {
         Recordset rs = store.query("Select * from Users Where UserNm = " + q(newName));
         const bool found = !rs.eof();
         if (found)
-            store.execute("Update Users Set Pwd= " + q(Trim(text("txt_new_password"))) + " where UserNm = " +
-                          q(newName));
+            store.execute("Update Users Set Pwd= " + q(Trim(text("txt_new_password"))) +
+                          " where UserNm = " + q(newName));
         setEnabled("cmdokcan(0)", true);
         setEnabled("cmdokcan(1)", true);
         setText("cmdchgpass", kChangeCaption);

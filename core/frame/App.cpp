@@ -12,14 +12,17 @@ App::App(Ui& ui, Clock& clock, std::filesystem::path dataDir)
 App::~App() = default;
 
 Store& App::store() {
-    if (!store_)
-        throw StoreError(3704, "Operation is not allowed when the object is closed.");
+    if (!store_) throw StoreError(3704, "Operation is not allowed when the object is closed.");
     return *store_;
 }
 
-void App::openStore() { store_ = Store::open(storeFile()); }
+void App::openStore() {
+    store_ = Store::open(storeFile());
+}
 
-void App::closeStore() { store_.reset(); }
+void App::closeStore() {
+    store_.reset();
+}
 
 void App::end() {
     ui_.endProgram();

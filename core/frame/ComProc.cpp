@@ -7,12 +7,15 @@
 
 namespace tallimark {
 
-void BusyCursor(Ui& ui) { ui.setBusy(true); }
-void NormalCursor(Ui& ui) { ui.setBusy(false); }
+void BusyCursor(Ui& ui) {
+    ui.setBusy(true);
+}
+void NormalCursor(Ui& ui) {
+    ui.setBusy(false);
+}
 
 void EnterAsTab(Form& form, int keyCode) {
-    if (keyCode == 13)
-        form.focusNext();
+    if (keyCode == 13) form.focusNext();
 }
 
 void SelectAll(Form& form, const std::string& field) {
@@ -25,8 +28,7 @@ void SelectAll(Form& form, const std::string& field) {
 namespace {
 template <class F> void eachTextBox(Form& form, F f) {
     for (const std::string& name : form.controlOrder())
-        if (form.hasControl(name) && form.control(name).kind == ControlKind::TextBox)
-            f(name);
+        if (form.hasControl(name) && form.control(name).kind == ControlKind::TextBox) f(name);
 }
 } // namespace
 

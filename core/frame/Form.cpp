@@ -6,23 +6,26 @@
 namespace tallimark {
 
 namespace {
-const char* const kEventNames[] = {"Click",    "DblClick", "Change", "GotFocus", "LostFocus",
-                                   "KeyDown",  "KeyPress", "Load",   "Activate", "QueryUnload"};
+const char* const kEventNames[] = {"Click",   "DblClick", "Change", "GotFocus", "LostFocus",
+                                   "KeyDown", "KeyPress", "Load",   "Activate", "QueryUnload"};
 }
 
-const char* eventName(EventType t) { return kEventNames[static_cast<int>(t)]; }
+const char* eventName(EventType t) {
+    return kEventNames[static_cast<int>(t)];
+}
 
 std::optional<EventType> eventFromName(const std::string& name) {
     for (int i = 0; i < static_cast<int>(std::size(kEventNames)); ++i)
-        if (name == kEventNames[i])
-            return static_cast<EventType>(i);
+        if (name == kEventNames[i]) return static_cast<EventType>(i);
     return std::nullopt;
 }
 
 Form::Form(App& app, std::string name, std::string caption)
     : app_(app), name_(std::move(name)), caption_(std::move(caption)) {}
 
-Ui& Form::ui() { return app_.ui(); }
+Ui& Form::ui() {
+    return app_.ui();
+}
 
 void Form::setCaption(std::string caption) {
     caption_ = std::move(caption);
@@ -40,19 +43,19 @@ Control& Form::addControl(ControlKind kind, const std::string& name, std::string
 
 Grid& Form::addGrid(const std::string& name, int cols) {
     auto [it, inserted] = grids_.try_emplace(name, name, cols, [this, name] { markChanged(name); });
-    if (inserted)
-        order_.push_back(name);
+    if (inserted) order_.push_back(name);
     return it->second;
 }
 
 Control& Form::control(const std::string& name) {
     auto it = controls_.find(name);
-    if (it == controls_.end())
-        throw VbError(730, "Control '" + name + "' not found on " + name_);
+    if (it == controls_.end()) throw VbError(730, "Control '" + name + "' not found on " + name_);
     return it->second;
 }
 
-const Control& Form::control(const std::string& name) const { return const_cast<Form*>(this)->control(name); }
+const Control& Form::control(const std::string& name) const {
+    return const_cast<Form*>(this)->control(name);
+}
 
 std::vector<std::string> Form::gridNames() const {
     std::vector<std::string> names;
@@ -63,18 +66,17 @@ std::vector<std::string> Form::gridNames() const {
 
 Grid& Form::grid(const std::string& name) {
     auto it = grids_.find(name);
-    if (it == grids_.end())
-        throw VbError(730, "Grid '" + name + "' not found on " + name_);
+    if (it == grids_.end()) throw VbError(730, "Grid '" + name + "' not found on " + name_);
     return it->second;
 }
 
 void Form::setText(const std::string& name, std::string text) {
     Control& c = control(name);
-    if (c.text == text)
-        return;
+    if (c.text == text) return;
     c.text = std::move(text);
     markChanged(name);
-    if (c.kind == ControlKind::TextBox || c.kind == ControlKind::ComboBox || c.kind == ControlKind::DatePicker)
+    if (c.kind == ControlKind::TextBox || c.kind == ControlKind::ComboBox ||
+        c.kind == ControlKind::DatePicker)
         fire(name, EventType::Change);
 }
 
@@ -113,8 +115,7 @@ void Form::setValue(const std::string& name, bool value) {
     const bool changed = c.value != value;
     c.value = value;
     markChanged(name);
-    if (changed && value)
-        fire(name, EventType::Click);
+    if (changed && value) fire(name, EventType::Click);
 }
 
 void Form::setItems(const std::string& name, std::vector<std::string> items) {
@@ -131,17 +132,15 @@ void Form::dispatch(const std::string& control, Event& event) {
     if (it == handlers_.end()) {
         // A control array element "Cmd(3)" falls to the array's handler with its index.
         const size_t open = control.find('(');
-        if (open == std::string::npos)
-            return;
+        if (open == std::string::npos) return;
         it = handlers_.find({control.substr(0, open), event.type});
-        if (it == handlers_.end())
-            return;
+        if (it == handlers_.end()) return;
         event.index = std::stoi(control.substr(open + 1));
     }
     it->second(event);
 }
 
-void Form::fire(const std::string& control, Event event) {
+Event Form::fire(const std::string& control, Event event) {
     ++depth_;
     try {
         dispatch(control, event);
@@ -158,6 +157,7 @@ void Form::fire(const std::string& control, Event event) {
         applyPendingFocus();
         flush();
     }
+    return event;
 }
 
 void Form::runtimeErrorBox(const VbError& error) {
@@ -173,11 +173,9 @@ void Form::failureBox(const std::string& procedure, const std::exception& error,
 
 void Form::setFocus(const std::string& name) {
     const Control& c = control(name);
-    if (!c.enabled || !c.visible)
-        throw VbError(5, "Invalid procedure call or argument");
+    if (!c.enabled || !c.visible) throw VbError(5, "Invalid procedure call or argument");
     pendingFocus_ = name;
-    if (depth_ == 0)
-        applyPendingFocus();
+    if (depth_ == 0) applyPendingFocus();
 }
 
 void Form::applyPendingFocus() {
@@ -190,30 +188,26 @@ void Form::applyPendingFocus() {
 }
 
 void Form::moveFocus(const std::string& name) {
-    if (focused_ == name)
-        return;
+    if (focused_ == name) return;
     const std::string old = focused_;
     focused_ = name;
     markChanged("");
-    if (!old.empty())
-        fire(old, EventType::LostFocus);
-    if (focused_ == name)
-        fire(name, EventType::GotFocus);
+    if (!old.empty()) fire(old, EventType::LostFocus);
+    if (focused_ == name) fire(name, EventType::GotFocus);
 }
 
 void Form::focusNext() {
-    if (order_.empty())
-        return;
+    if (order_.empty()) return;
     auto current = std::find(order_.begin(), order_.end(), focused_);
     size_t start = current == order_.end() ? 0 : static_cast<size_t>(current - order_.begin()) + 1;
     for (size_t k = 0; k < order_.size(); ++k) {
         const std::string& n = order_[(start + k) % order_.size()];
         auto it = controls_.find(n);
-        const bool focusable = it == controls_.end()
-                                   ? true
-                                   : it->second.enabled && it->second.visible &&
-                                         it->second.kind != ControlKind::Label &&
-                                         it->second.kind != ControlKind::Menu && it->second.kind != ControlKind::Frame;
+        const bool focusable = it == controls_.end() ? true
+                                                     : it->second.enabled && it->second.visible &&
+                                                           it->second.kind != ControlKind::Label &&
+                                                           it->second.kind != ControlKind::Menu &&
+                                                           it->second.kind != ControlKind::Frame;
         if (focusable) {
             setFocus(n);
             return;
@@ -222,8 +216,7 @@ void Form::focusNext() {
 }
 
 void Form::load() {
-    if (loaded_)
-        return;
+    if (loaded_) return;
     loaded_ = true;
     fire("Form", EventType::Load);
 }
@@ -246,8 +239,7 @@ void Form::showModal() {
 }
 
 void Form::hide() {
-    if (!visible_)
-        return;
+    if (!visible_) return;
     visible_ = false;
     markChanged("");
     flush();
@@ -263,21 +255,20 @@ bool Form::requestClose() {
         runtimeErrorBox(err);
     }
     --depth_;
-    if (e.cancel)
-        return false;
+    if (e.cancel) return false;
     app_.screens().unload(name_);
     return true;
 }
 
-void Form::markChanged(const std::string& name) { dirty_.insert(name); }
+void Form::markChanged(const std::string& name) {
+    dirty_.insert(name);
+}
 
 void Form::flush() {
-    if (dirty_.empty())
-        return;
+    if (dirty_.empty()) return;
     std::set<std::string> names;
     names.swap(dirty_);
-    if (listener_)
-        listener_->modelChanged(names);
+    if (listener_) listener_->modelChanged(names);
 }
 
 } // namespace tallimark

@@ -17,7 +17,18 @@ class App;
 class Ui;
 class VbError;
 
-enum class ControlKind { TextBox, Label, Button, CheckBox, OptionButton, ComboBox, ListBox, DatePicker, Menu, Frame };
+enum class ControlKind {
+    TextBox,
+    Label,
+    Button,
+    CheckBox,
+    OptionButton,
+    ComboBox,
+    ListBox,
+    DatePicker,
+    Menu,
+    Frame
+};
 
 struct Control {
     std::string name;
@@ -34,7 +45,18 @@ struct Control {
     std::string menuParent; // the menu head a menu entry stands under
 };
 
-enum class EventType { Click, DblClick, Change, GotFocus, LostFocus, KeyDown, KeyPress, Load, Activate, QueryUnload };
+enum class EventType {
+    Click,
+    DblClick,
+    Change,
+    GotFocus,
+    LostFocus,
+    KeyDown,
+    KeyPress,
+    Load,
+    Activate,
+    QueryUnload
+};
 
 const char* eventName(EventType t);
 std::optional<EventType> eventFromName(const std::string& name);
@@ -97,7 +119,8 @@ public:
 
     // Fires an event of a control ("Form" for the screen). A run-time error that no handler
     // traps reaches the user as the run-time error box; the model keeps what it had.
-    void fire(const std::string& control, Event event);
+    // Returns the event as the handlers left it: a key handler may swallow or change its key.
+    Event fire(const std::string& control, Event event);
     void fire(const std::string& control, EventType type) { fire(control, Event{type}); }
 
     // Focus: handlers ask for it; the move happens when the event in hand has run, as the
@@ -130,7 +153,8 @@ protected:
     // The box of a run-time error that no procedure trapped.
     void runtimeErrorBox(const VbError& error);
     // The failure box of a trapped procedure.
-    void failureBox(const std::string& procedure, const std::exception& error, const char* numberWords = " and No: ");
+    void failureBox(const std::string& procedure, const std::exception& error,
+                    const char* numberWords = " and No: ");
 
 private:
     void dispatch(const std::string& control, Event& event);

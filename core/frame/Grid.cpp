@@ -28,20 +28,22 @@ void Grid::setMaxCols(int cols) {
 }
 
 GridColumn& Grid::column(int col) {
-    if (col < 1 || col > maxCols())
-        vberr::raise(vberr::InvalidCall);
+    if (col < 1 || col > maxCols()) vberr::raise(vberr::InvalidCall);
     return columns_[static_cast<size_t>(col - 1)];
 }
 
-const GridColumn& Grid::column(int col) const { return const_cast<Grid*>(this)->column(col); }
+const GridColumn& Grid::column(int col) const {
+    return const_cast<Grid*>(this)->column(col);
+}
 
 Cell& Grid::at(int row, int col) {
-    if (row < 1 || row > maxRows() || col < 1 || col > maxCols())
-        vberr::raise(vberr::InvalidCall);
+    if (row < 1 || row > maxRows() || col < 1 || col > maxCols()) vberr::raise(vberr::InvalidCall);
     return rows_[static_cast<size_t>(row - 1)][static_cast<size_t>(col - 1)];
 }
 
-const Cell& Grid::cell(int row, int col) const { return const_cast<Grid*>(this)->at(row, col); }
+const Cell& Grid::cell(int row, int col) const {
+    return const_cast<Grid*>(this)->at(row, col);
+}
 
 void Grid::setText(int row, int col, std::string text) {
     at(row, col).text = std::move(text);
@@ -63,7 +65,9 @@ void Grid::setChecked(int row, bool checked) {
     changed_();
 }
 
-bool Grid::checked(int row) const { return cell(row, 1).checked; }
+bool Grid::checked(int row) const {
+    return cell(row, 1).checked;
+}
 
 void Grid::clearText() {
     for (auto& r : rows_)
@@ -75,8 +79,7 @@ void Grid::clearText() {
 int Grid::dataRowCount() const {
     for (int r = maxRows(); r >= 1; --r)
         for (const Cell& c : rows_[static_cast<size_t>(r - 1)])
-            if (!c.text.empty())
-                return r;
+            if (!c.text.empty()) return r;
     return 0;
 }
 

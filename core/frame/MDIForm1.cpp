@@ -25,9 +25,9 @@ const MenuEntry kMenus[] = {
     {"mnucalc", "&Calculator", "mnuutility", "FrmCalc"},
 };
 
-const char* const kUnloadOrder[] = {"FrmPort5",          "FrmScriptMast",  "FrmNewScript", "FrmOption",
-                                    "FrmUnderlying",     "FrmPortfolioIndex", "FrmTradeTracker", "FrmTrail",
-                                    "FrmUpload",         "FrmSimulation",  "FrmCharges",   "FrmNewMainScreen"};
+const char* const kUnloadOrder[] = {
+    "FrmPort5",        "FrmScriptMast", "FrmNewScript", "FrmOption",     "FrmUnderlying", "FrmPortfolioIndex",
+    "FrmTradeTracker", "FrmTrail",      "FrmUpload",    "FrmSimulation", "FrmCharges",    "FrmNewMainScreen"};
 } // namespace
 
 MDIForm1::MDIForm1(App& app) : Form(app, kName, "Tallimark") {
@@ -35,7 +35,8 @@ MDIForm1::MDIForm1(App& app) : Form(app, kName, "Tallimark") {
         addControl(ControlKind::Menu, m.name, m.caption).menuParent = m.parent;
         if (*m.screen) {
             const std::string screen = m.screen;
-            on(m.name, EventType::Click, [this, screen](Event&) { this->app().screens().get(screen).show(); });
+            on(m.name, EventType::Click,
+               [this, screen](Event&) { this->app().screens().get(screen).show(); });
         }
     }
     on("mnuexit", EventType::Click, [this](Event&) { requestClose(); });
@@ -54,8 +55,8 @@ void MDIForm1::UnloadForms() {
             app().screens().unload(name);
     } catch (const std::exception& e) {
         const auto* vb = dynamic_cast<const VbError*>(&e);
-        ui().msgBox({std::string("Error in UnloadForms Procedure: ") + e.what() + " and no: " +
-                     std::to_string(vb ? vb->number() : 0)});
+        ui().msgBox({std::string("Error in UnloadForms Procedure: ") + e.what() +
+                     " and no: " + std::to_string(vb ? vb->number() : 0)});
     }
 }
 

@@ -11,17 +11,21 @@ using T = ColumnType;
 std::vector<Column> trackerColumns() {
     // One shape for Tracker, DummyTracker and UploadTracker: rows move between them with
     // "select *", so the order here is the order of all three.
-    return {{"InType", T::Text},    {"InDesc", T::Text},   {"MktPrice", T::Double}, {"Units", T::Long},
-            {"Traded", T::Double},  {"Symbol", T::Text},   {"Strike", T::Double},   {"TradeDt", T::Date},
-            {"Vol", T::Double},     {"CP", T::Text},       {"Delta", T::Double},    {"Last", T::Double},
-            {"Days", T::Long},      {"DumThVal", T::Double}, {"DeltaVal", T::Double}, {"Theta", T::Double},
-            {"ThetaVal", T::Double}, {"Vega", T::Double},  {"VegaVal", T::Double},  {"Gamma", T::Double},
-            {"GammaVal", T::Double}, {"CashType", T::Text}, {"RealFlag", T::Text},  {"Complete", T::Text},
-            {"Field1", T::Text},    {"Field2", T::Double}, {"Field3", T::Text}};
+    return {{"InType", T::Text},     {"InDesc", T::Text},     {"MktPrice", T::Double}, {"Units", T::Long},
+            {"Traded", T::Double},   {"Symbol", T::Text},     {"Strike", T::Double},   {"TradeDt", T::Date},
+            {"Vol", T::Double},      {"CP", T::Text},         {"Delta", T::Double},    {"Last", T::Double},
+            {"Days", T::Long},       {"DumThVal", T::Double}, {"DeltaVal", T::Double}, {"Theta", T::Double},
+            {"ThetaVal", T::Double}, {"Vega", T::Double},     {"VegaVal", T::Double},  {"Gamma", T::Double},
+            {"GammaVal", T::Double}, {"CashType", T::Text},   {"RealFlag", T::Text},   {"Complete", T::Text},
+            {"Field1", T::Text},     {"Field2", T::Double},   {"Field3", T::Text}};
 }
 
 std::vector<Column> uploadFileColumns() {
-    return {{"TradeDt", T::Date}, {"futstk", T::Text}, {"equity", T::Text}, {"Symbol", T::Text}, {"InDesc", T::Text}};
+    return {{"TradeDt", T::Date},
+            {"futstk", T::Text},
+            {"equity", T::Text},
+            {"Symbol", T::Text},
+            {"InDesc", T::Text}};
 }
 
 std::vector<Column> doubles(std::initializer_list<const char*> names) {
@@ -48,66 +52,76 @@ std::vector<Table> makeTables() {
                   {"Week_Gamma", T::Text},
                   {"Field2", T::Double},
                   {"Field1", T::Text}}});
-    t.push_back({"MonthCheck", {{"Mnth", T::Text}, {"Days", T::Long}, {"FCode", T::Text}, {"SCode", T::Text}}});
-    t.push_back({"Trans",
-                 {{"DIntRate", T::Double},  {"FIntRate", T::Double}, {"InDesc", T::Text},    {"InSymbol", T::Text},
-                  {"InType", T::Text},      {"Iterations", T::Long}, {"KeySpread", T::Text}, {"KeySymbol", T::Text},
-                  {"KeyType", T::Text},     {"MidStrike", T::Double}, {"OptComm", T::Double}, {"OptModel", T::Text},
-                  {"PSource", T::Text},     {"AStrike", T::Double},  {"BStrike", T::Double}, {"UComm", T::Double},
-                  {"Transdt", T::Date}}});
     t.push_back(
-        {"PortfolioMast",
-         concat(concat({{"Symbol", T::Text},
-                        {"Descr", T::Text},
-                        {"MktPrice", T::Double},
-                        {"Days", T::Long},
-                        {"Net", T::Double},
-                        {"ImpVol", T::Double},
-                        {"ImpVolP", T::Double},
-                        {"AvgVol", T::Double},
-                        {"KeyOff", T::Text},
-                        {"Spread", T::Text}},
-                       doubles({"Premium", "Comm", "CashU", "CashR", "FutureU", "FutureR", "OptionU", "OptionR",
-                                "Equity", "Balance", "TotComm"})),
-                concat({{"FutLots", T::Long},
-                        {"FutTrade", T::Double},
-                        {"CashLots", T::Long},
-                        {"CashTrade", T::Double},
-                        {"Delvalue", T::Double},
-                        {"GammaVal", T::Double},
-                        {"VegaVal", T::Double},
-                        {"ThetaVal", T::Double},
-                        {"DelCont", T::Double},
-                        {"GamCont", T::Double},
-                        {"DelHedge", T::Text},
-                        {"GamHedge", T::Text},
-                        {"VegaHedge", T::Text},
-                        {"ThetaHedge", T::Text},
-                        {"DelPts", T::Double},
-                        {"GamPts", T::Double},
-                        {"VegaPts", T::Double},
-                        {"ThetaPts", T::Double},
-                        {"DelNeutral", T::Double},
-                        {"Dt", T::Date},
-                        {"ExpDt", T::Date}},
-                       concat(doubles({"TotDelta", "TotGamma", "TotVega", "TotTheta", "Up1MktPrice", "Up1Bal",
-                                       "Up2MktPrice", "Up2Bal", "Dn1MktPrice", "Dn1Bal", "Dn2MktPrice", "Dn2Bal",
-                                       "Field2"}),
-                              {{"Field1", T::Text}})))});
-    t.push_back({"PortfolioDet",
-                 {{"Symbol", T::Text},     {"Descr", T::Text},    {"Strike", T::Double},  {"CP", T::Text},
-                  {"Units", T::Long},      {"Traded", T::Double}, {"Last", T::Double},    {"Vol", T::Double},
-                  {"Delta", T::Double},    {"Dt", T::Date},       {"DumThVal", T::Double}, {"DeltaVal", T::Double},
-                  {"Theta", T::Double},    {"ThetaVal", T::Double}, {"Gamma", T::Double},  {"GammaVal", T::Double},
-                  {"Vega", T::Double},     {"VegaVal", T::Double}, {"Field2", T::Long},   {"Field1", T::Text}}});
+        {"MonthCheck", {{"Mnth", T::Text}, {"Days", T::Long}, {"FCode", T::Text}, {"SCode", T::Text}}});
+    t.push_back({"Trans",
+                 {{"DIntRate", T::Double},
+                  {"FIntRate", T::Double},
+                  {"InDesc", T::Text},
+                  {"InSymbol", T::Text},
+                  {"InType", T::Text},
+                  {"Iterations", T::Long},
+                  {"KeySpread", T::Text},
+                  {"KeySymbol", T::Text},
+                  {"KeyType", T::Text},
+                  {"MidStrike", T::Double},
+                  {"OptComm", T::Double},
+                  {"OptModel", T::Text},
+                  {"PSource", T::Text},
+                  {"AStrike", T::Double},
+                  {"BStrike", T::Double},
+                  {"UComm", T::Double},
+                  {"Transdt", T::Date}}});
+    t.push_back({"PortfolioMast",
+                 concat(concat({{"Symbol", T::Text},
+                                {"Descr", T::Text},
+                                {"MktPrice", T::Double},
+                                {"Days", T::Long},
+                                {"Net", T::Double},
+                                {"ImpVol", T::Double},
+                                {"ImpVolP", T::Double},
+                                {"AvgVol", T::Double},
+                                {"KeyOff", T::Text},
+                                {"Spread", T::Text}},
+                               doubles({"Premium", "Comm", "CashU", "CashR", "FutureU", "FutureR", "OptionU",
+                                        "OptionR", "Equity", "Balance", "TotComm"})),
+                        concat({{"FutLots", T::Long},      {"FutTrade", T::Double}, {"CashLots", T::Long},
+                                {"CashTrade", T::Double},  {"Delvalue", T::Double}, {"GammaVal", T::Double},
+                                {"VegaVal", T::Double},    {"ThetaVal", T::Double}, {"DelCont", T::Double},
+                                {"GamCont", T::Double},    {"DelHedge", T::Text},   {"GamHedge", T::Text},
+                                {"VegaHedge", T::Text},    {"ThetaHedge", T::Text}, {"DelPts", T::Double},
+                                {"GamPts", T::Double},     {"VegaPts", T::Double},  {"ThetaPts", T::Double},
+                                {"DelNeutral", T::Double}, {"Dt", T::Date},         {"ExpDt", T::Date}},
+                               concat(doubles({"TotDelta", "TotGamma", "TotVega", "TotTheta", "Up1MktPrice",
+                                               "Up1Bal", "Up2MktPrice", "Up2Bal", "Dn1MktPrice", "Dn1Bal",
+                                               "Dn2MktPrice", "Dn2Bal", "Field2"}),
+                                      {{"Field1", T::Text}})))});
+    t.push_back(
+        {"PortfolioDet",
+         {{"Symbol", T::Text},  {"Descr", T::Text},      {"Strike", T::Double},   {"CP", T::Text},
+          {"Units", T::Long},   {"Traded", T::Double},   {"Last", T::Double},     {"Vol", T::Double},
+          {"Delta", T::Double}, {"Dt", T::Date},         {"DumThVal", T::Double}, {"DeltaVal", T::Double},
+          {"Theta", T::Double}, {"ThetaVal", T::Double}, {"Gamma", T::Double},    {"GammaVal", T::Double},
+          {"Vega", T::Double},  {"VegaVal", T::Double},  {"Field2", T::Long},     {"Field1", T::Text}}});
     t.push_back({"Tracker", trackerColumns()});
     t.push_back({"DummyTracker", trackerColumns()});
     t.push_back({"UploadTracker", trackerColumns()});
     t.push_back({"FutOpt",
-                 {{"Field1", T::Long},     {"Type", T::Text},     {"Name", T::Text},      {"ExpDt", T::Text},
-                  {"Strike", T::Text},     {"CP", T::Text},       {"BS", T::Long},        {"Qty", T::Long},
-                  {"Premium", T::Double},  {"Symbol", T::Text},   {"Descr", T::Text},     {"FileName", T::Text},
-                  {"MktPrice", T::Double}, {"Field22", T::Text},  {"Field23", T::Text}}});
+                 {{"Field1", T::Long},
+                  {"Type", T::Text},
+                  {"Name", T::Text},
+                  {"ExpDt", T::Text},
+                  {"Strike", T::Text},
+                  {"CP", T::Text},
+                  {"BS", T::Long},
+                  {"Qty", T::Long},
+                  {"Premium", T::Double},
+                  {"Symbol", T::Text},
+                  {"Descr", T::Text},
+                  {"FileName", T::Text},
+                  {"MktPrice", T::Double},
+                  {"Field22", T::Text},
+                  {"Field23", T::Text}}});
     t.push_back({"Eq",
                  {{"Field1", T::Long},
                   {"Name", T::Text},
@@ -125,20 +139,22 @@ std::vector<Table> makeTables() {
     t.push_back({"DumUploadFile", uploadFileColumns()});
     t.push_back({"Charges", doubles({"TurnOverCh", "ConCh", "DpCh", "StkInt", "OtherChgs", "StDuty", "ConChf",
                                      "MtmChg", "ConChP"})});
-    t.push_back({"Closing",
-                 concat({{"Symbol", T::Text}, {"Descr", T::Text}, {"Dt", T::Text}},
-                        doubles({"ClMtm",      "ClStk",      "DPChgs",    "ConChgs",    "TOverChgs",  "StkInt",
-                                 "OtherChgs",  "ConChF",     "ConChP",    "MtmChg",     "OpBal",      "ClBal",
-                                 "OpBalInt",   "ShBal",      "NetBal",    "MktPrice",   "FutUnits",   "CashUnits",
-                                 "FutTraded",  "CashTraded", "Prem",      "CashTOverAmt", "FutConAmt", "CashDpAmt",
-                                 "CpConAmt",   "CpPreAmt",   "MtmIntAmt", "CashIntAmt", "OtherChgsAmt", "ConChPval",
-                                 "MtmChFval",  "Field2"}))});
+    t.push_back(
+        {"Closing",
+         concat({{"Symbol", T::Text}, {"Descr", T::Text}, {"Dt", T::Text}},
+                doubles({"ClMtm",     "ClStk",      "DPChgs",    "ConChgs",      "TOverChgs",    "StkInt",
+                         "OtherChgs", "ConChF",     "ConChP",    "MtmChg",       "OpBal",        "ClBal",
+                         "OpBalInt",  "ShBal",      "NetBal",    "MktPrice",     "FutUnits",     "CashUnits",
+                         "FutTraded", "CashTraded", "Prem",      "CashTOverAmt", "FutConAmt",    "CashDpAmt",
+                         "CpConAmt",  "CpPreAmt",   "MtmIntAmt", "CashIntAmt",   "OtherChgsAmt", "ConChPval",
+                         "MtmChFval", "Field2"}))});
     t.push_back({"Users", {{"UserCd", T::Text}, {"UserNm", T::Text}, {"Pwd", T::Text}}});
-    t.push_back({"ExpTemp", concat({{"Dt", T::Date}}, doubles({"Opbal", "Prem", "EqAmt", "TotAmt", "StkInt", "DpAmt",
-                                                                "ConAmt", "MtmInt", "TOverAmt", "SDuty"}))});
-    const std::vector<Column> callSummary = {{"Traded", T::Double}, {"Strike", T::Double}, {"TradeDt", T::Date},
-                                             {"CP", T::Text},       {"CUnits", T::Long},   {"PUnits", T::Long},
-                                             {"Premium", T::Double}};
+    t.push_back(
+        {"ExpTemp", concat({{"Dt", T::Date}}, doubles({"Opbal", "Prem", "EqAmt", "TotAmt", "StkInt", "DpAmt",
+                                                       "ConAmt", "MtmInt", "TOverAmt", "SDuty"}))});
+    const std::vector<Column> callSummary = {
+        {"Traded", T::Double}, {"Strike", T::Double}, {"TradeDt", T::Date},  {"CP", T::Text},
+        {"CUnits", T::Long},   {"PUnits", T::Long},   {"Premium", T::Double}};
     t.push_back({"CallSummary1", callSummary});
     t.push_back({"Call1", callSummary});
     t.push_back({"FutStkSumDet",
@@ -187,8 +203,8 @@ std::string dateTriggers(const Table& t, const Column& c) {
     const std::string body = " BEGIN UPDATE " + t.name + " SET " + c.name + " = cdate(NEW." + c.name +
                              ") WHERE rowid = NEW.rowid; END;";
     return "CREATE TRIGGER " + t.name + "_" + c.name + "_ins AFTER INSERT ON " + t.name + when + body +
-           "CREATE TRIGGER " + t.name + "_" + c.name + "_upd AFTER UPDATE OF " + c.name + " ON " + t.name + when +
-           body;
+           "CREATE TRIGGER " + t.name + "_" + c.name + "_upd AFTER UPDATE OF " + c.name + " ON " + t.name +
+           when + body;
 }
 
 } // namespace
@@ -206,8 +222,7 @@ void createTables(Store& store) {
             ddl += (i ? ", " : "") + t.columns[i].name + " " + typeName(t.columns[i].type);
         ddl += ");";
         for (const Column& c : t.columns)
-            if (c.type == T::Date)
-                ddl += dateTriggers(t, c);
+            if (c.type == T::Date) ddl += dateTriggers(t, c);
     }
     for (const char* k : kKeys)
         ddl += std::string(k) + ";";
@@ -228,16 +243,17 @@ void createReadyStore(const std::filesystem::path& file) {
         const char* fcode;
         const char* scode;
     };
-    const Month months[] = {{"JANUARY", 31, "F", "A"}, {"FEBRUARY", 28, "G", "B"}, {"MARCH", 31, "H", "C"},
-                            {"APRIL", 30, "J", "D"},   {"MAY", 31, "K", "E"},      {"JUNE", 30, "M", "F"},
-                            {"JULY", 31, "N", "G"},    {"AUGUST", 31, "Q", "H"},   {"SEPTEMBER", 30, "U", "I"},
-                            {"OCTOBER", 31, "V", "J"}, {"NOVEMBER", 30, "X", "K"}, {"DECEMBER", 31, "Z", "L"}};
+    const Month months[] = {
+        {"JANUARY", 31, "F", "A"}, {"FEBRUARY", 28, "G", "B"}, {"MARCH", 31, "H", "C"},
+        {"APRIL", 30, "J", "D"},   {"MAY", 31, "K", "E"},      {"JUNE", 30, "M", "F"},
+        {"JULY", 31, "N", "G"},    {"AUGUST", 31, "Q", "H"},   {"SEPTEMBER", 30, "U", "I"},
+        {"OCTOBER", 31, "V", "J"}, {"NOVEMBER", 30, "X", "K"}, {"DECEMBER", 31, "Z", "L"}};
     WriteGroup group(*store);
     for (const Month& m : months)
         store->execute("insert into MonthCheck (Mnth, Days, FCode, SCode) values (" + q(m.name) + ", " +
                        std::to_string(m.days) + ", " + q(m.fcode) + ", " + q(m.scode) + ")");
-    store->execute(std::string("insert into Users (UserCd, UserNm, Pwd) values ('1', ") + q(kFirstUserName) + ", " +
-                   q(kFirstUserPassword) + ")");
+    store->execute(std::string("insert into Users (UserCd, UserNm, Pwd) values ('1', ") + q(kFirstUserName) +
+                   ", " + q(kFirstUserPassword) + ")");
 }
 
 } // namespace tallimark::schema

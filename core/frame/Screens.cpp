@@ -8,7 +8,9 @@ namespace tallimark {
 Screens::Screens(App& app) : app_(app) {}
 Screens::~Screens() = default;
 
-void Screens::collect() { graveyard_.clear(); }
+void Screens::collect() {
+    graveyard_.clear();
+}
 
 void Screens::adopt(std::unique_ptr<Form> form) {
     const std::string name = form->name();
@@ -24,8 +26,7 @@ Form& Screens::get(const std::string& name) {
     Form* f = find(name);
     if (!f) {
         auto made = makeScreen(app_, name);
-        if (!made)
-            throw VbError(424, "Object required: no screen named " + name);
+        if (!made) throw VbError(424, "Object required: no screen named " + name);
         f = made.get();
         adopt(std::move(made));
     }
@@ -42,8 +43,7 @@ std::vector<Form*> Screens::loaded() {
 
 void Screens::unload(const std::string& name) {
     auto it = forms_.find(name);
-    if (it == forms_.end())
-        return;
+    if (it == forms_.end()) return;
     std::unique_ptr<Form> form = std::move(it->second);
     forms_.erase(it);
     form->hide();

@@ -18,8 +18,7 @@ public:
     // A loaded screen, loading it on first use; raises for a name the system does not know.
     Form& get(const std::string& name);
     template <class F> F& get() {
-        if (!find(F::kName))
-            adopt(std::make_unique<F>(app_));
+        if (!find(F::kName)) adopt(std::make_unique<F>(app_));
         return static_cast<F&>(get(F::kName));
     }
     Form* find(const std::string& name);

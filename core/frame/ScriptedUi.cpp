@@ -27,24 +27,23 @@ MsgAnswer ScriptedUi::msgBox(const MsgBox& box) {
         answers_.pop_front();
     }
     boxes_.push_back({box, answer});
-    if (boxListener_)
-        boxListener_(boxes_.back());
+    if (boxListener_) boxListener_(boxes_.back());
     return answer;
 }
 
 void ScriptedUi::showModal(Form& form) {
-    if (modalRunner_)
-        modalRunner_(form);
+    if (modalRunner_) modalRunner_(form);
 }
 
 std::optional<std::string> ScriptedUi::fileDialog(const FileDialog&) {
-    if (files_.empty())
-        return std::nullopt;
+    if (files_.empty()) return std::nullopt;
     auto f = files_.front();
     files_.pop_front();
     return f;
 }
 
-void ScriptedUi::endProgram() { throw ProgramEnd(); }
+void ScriptedUi::endProgram() {
+    throw ProgramEnd();
+}
 
 } // namespace tallimark

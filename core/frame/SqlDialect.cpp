@@ -11,11 +11,9 @@ namespace tallimark::sqldialect {
 namespace {
 
 bool wordAt(std::string_view s, size_t i, std::string_view word) {
-    if (i + word.size() > s.size())
-        return false;
+    if (i + word.size() > s.size()) return false;
     for (size_t k = 0; k < word.size(); ++k)
-        if (std::tolower(static_cast<unsigned char>(s[i + k])) != word[k])
-            return false;
+        if (std::tolower(static_cast<unsigned char>(s[i + k])) != word[k]) return false;
     return true;
 }
 
@@ -25,7 +23,9 @@ size_t skipBlanks(std::string_view s, size_t i) {
     return i;
 }
 
-bool identChar(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; }
+bool identChar(char c) {
+    return std::isalnum(static_cast<unsigned char>(c)) || c == '_';
+}
 
 // Left( and Right( are join words to SQLite; as functions they become leftstr( and rightstr(.
 std::string mapStringFunctions(std::string_view sql) {
@@ -38,7 +38,8 @@ std::string mapStringFunctions(std::string_view sql) {
             quoted = !quoted;
         } else if (!quoted && (i == 0 || !identChar(sql[i - 1]))) {
             for (std::string_view word : {std::string_view("left"), std::string_view("right")}) {
-                if (wordAt(sql, i, word) && (i + word.size() >= sql.size() || !identChar(sql[i + word.size()]))) {
+                if (wordAt(sql, i, word) &&
+                    (i + word.size() >= sql.size() || !identChar(sql[i + word.size()]))) {
                     const size_t paren = skipBlanks(sql, i + word.size());
                     if (paren < sql.size() && sql[paren] == '(') {
                         out.append(sql.substr(i, word.size())).append("str");
@@ -60,14 +61,11 @@ std::string toSqlite(std::string_view sql) {
     std::string mapped = mapStringFunctions(sql);
     // Only the leading verb can carry the star: `delete * from X`.
     const size_t verb = skipBlanks(mapped, 0);
-    if (!wordAt(mapped, verb, "delete"))
-        return mapped;
+    if (!wordAt(mapped, verb, "delete")) return mapped;
     const size_t star = skipBlanks(mapped, verb + 6);
-    if (star >= mapped.size() || mapped[star] != '*')
-        return mapped;
+    if (star >= mapped.size() || mapped[star] != '*') return mapped;
     const size_t from = skipBlanks(mapped, star + 1);
-    if (!wordAt(mapped, from, "from"))
-        return mapped;
+    if (!wordAt(mapped, from, "from")) return mapped;
     return mapped.substr(0, verb) + "delete " + mapped.substr(from);
 }
 
@@ -85,60 +83,51 @@ void setText(sqlite3_context* ctx, const std::string& s) {
 // cdate(text): the date as the store keeps it, "YYYY-MM-DD[ hh:mm:ss]", so that dates compare
 // and sort as dates. A text that is no date is an error of the statement.
 void cdateFn(sqlite3_context* ctx, int, sqlite3_value** argv) {
-    if (sqlite3_value_type(argv[0]) == SQLITE_NULL)
-        return sqlite3_result_null(ctx);
+    if (sqlite3_value_type(argv[0]) == SQLITE_NULL) return sqlite3_result_null(ctx);
     const auto d = parseDate(argText(argv[0]));
-    if (!d)
-        return sqlite3_result_error(ctx, "Data type mismatch in criteria expression.", -1);
+    if (!d) return sqlite3_result_error(ctx, "Data type mismatch in criteria expression.", -1);
     setText(ctx, IsoText(*d));
 }
 
 // Mid(text, start[, length]), 1-based.
 void midFn(sqlite3_context* ctx, int argc, sqlite3_value** argv) {
-    if (sqlite3_value_type(argv[0]) == SQLITE_NULL)
-        return sqlite3_result_null(ctx);
+    if (sqlite3_value_type(argv[0]) == SQLITE_NULL) return sqlite3_result_null(ctx);
     const std::string s = argText(argv[0]);
     const long start = sqlite3_value_int64(argv[1]);
-    if (start < 1)
-        return sqlite3_result_error(ctx, "Invalid procedure call", -1);
-    if (static_cast<size_t>(start) > s.size())
-        return setText(ctx, "");
-    const size_t len = argc > 2 ? static_cast<size_t>(std::max<sqlite3_int64>(0, sqlite3_value_int64(argv[2])))
-                                : std::string::npos;
+    if (start < 1) return sqlite3_result_error(ctx, "Invalid procedure call", -1);
+    if (static_cast<size_t>(start) > s.size()) return setText(ctx, "");
+    const size_t len = argc > 2
+                           ? static_cast<size_t>(std::max<sqlite3_int64>(0, sqlite3_value_int64(argv[2])))
+                           : std::string::npos;
     setText(ctx, s.substr(static_cast<size_t>(start - 1), len));
 }
 
 void leftFn(sqlite3_context* ctx, int, sqlite3_value** argv) {
-    if (sqlite3_value_type(argv[0]) == SQLITE_NULL)
-        return sqlite3_result_null(ctx);
+    if (sqlite3_value_type(argv[0]) == SQLITE_NULL) return sqlite3_result_null(ctx);
     const sqlite3_int64 n = std::max<sqlite3_int64>(0, sqlite3_value_int64(argv[1]));
     setText(ctx, argText(argv[0]).substr(0, static_cast<size_t>(n)));
 }
 
 void rightFn(sqlite3_context* ctx, int, sqlite3_value** argv) {
-    if (sqlite3_value_type(argv[0]) == SQLITE_NULL)
-        return sqlite3_result_null(ctx);
+    if (sqlite3_value_type(argv[0]) == SQLITE_NULL) return sqlite3_result_null(ctx);
     const std::string s = argText(argv[0]);
     const size_t n = static_cast<size_t>(std::max<sqlite3_int64>(0, sqlite3_value_int64(argv[1])));
     setText(ctx, n >= s.size() ? s : s.substr(s.size() - n));
 }
 
 void roundFn(sqlite3_context* ctx, int argc, sqlite3_value** argv) {
-    if (sqlite3_value_type(argv[0]) == SQLITE_NULL)
-        return sqlite3_result_null(ctx);
+    if (sqlite3_value_type(argv[0]) == SQLITE_NULL) return sqlite3_result_null(ctx);
     const int n = argc > 1 ? sqlite3_value_int(argv[1]) : 0;
     sqlite3_result_double(ctx, Round(sqlite3_value_double(argv[0]), n));
 }
 
 void ucaseFn(sqlite3_context* ctx, int, sqlite3_value** argv) {
-    if (sqlite3_value_type(argv[0]) == SQLITE_NULL)
-        return sqlite3_result_null(ctx);
+    if (sqlite3_value_type(argv[0]) == SQLITE_NULL) return sqlite3_result_null(ctx);
     setText(ctx, UCase(argText(argv[0])));
 }
 
 void lenFn(sqlite3_context* ctx, int, sqlite3_value** argv) {
-    if (sqlite3_value_type(argv[0]) == SQLITE_NULL)
-        return sqlite3_result_null(ctx);
+    if (sqlite3_value_type(argv[0]) == SQLITE_NULL) return sqlite3_result_null(ctx);
     sqlite3_result_int64(ctx, static_cast<sqlite3_int64>(argText(argv[0]).size()));
 }
 

@@ -13,8 +13,7 @@ bool StartUp(App& app) {
     try {
         ui.setBusy(true);
         app.session().g_Today = app.clock().now();
-        if (std::filesystem::exists(app.storeFile()))
-            ui.setBusy(false);
+        if (std::filesystem::exists(app.storeFile())) ui.setBusy(false);
         app.openStore();
     } catch (const VbError& e) {
         ui.setBusy(false);

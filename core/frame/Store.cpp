@@ -10,7 +10,8 @@ namespace tallimark {
 
 std::string q(std::string_view text) {
     if (text.find('\'') != std::string_view::npos)
-        throw StoreError(SQLITE_ERROR, "Syntax error in string in query expression ''" + std::string(text) + "'.");
+        throw StoreError(SQLITE_ERROR,
+                         "Syntax error in string in query expression ''" + std::string(text) + "'.");
     std::string s;
     s.reserve(text.size() + 2);
     s += '\'';
@@ -46,7 +47,8 @@ const Value& Recordset::operator[](std::string_view name) const {
     for (size_t i = 0; i < names_.size(); ++i)
         if (names_[i].size() == name.size() && strncasecmp(names_[i].c_str(), name.data(), name.size()) == 0)
             return at(i);
-    throw StoreError(3265, "Item cannot be found in the collection corresponding to the requested name or ordinal.");
+    throw StoreError(
+        3265, "Item cannot be found in the collection corresponding to the requested name or ordinal.");
 }
 
 namespace {
@@ -61,10 +63,10 @@ public:
     Statement(sqlite3* db, std::string_view sql) : db_(db) {
         const std::string mapped = sqldialect::toSqlite(sql);
         const char* tail = nullptr;
-        if (sqlite3_prepare_v2(db, mapped.c_str(), static_cast<int>(mapped.size()), &stmt_, &tail) != SQLITE_OK)
+        if (sqlite3_prepare_v2(db, mapped.c_str(), static_cast<int>(mapped.size()), &stmt_, &tail) !=
+            SQLITE_OK)
             fail(db);
-        if (!stmt_)
-            throw StoreError(SQLITE_MISUSE, "The statement is empty.");
+        if (!stmt_) throw StoreError(SQLITE_MISUSE, "The statement is empty.");
         while (tail && *tail && std::isspace(static_cast<unsigned char>(*tail)))
             ++tail;
         if (tail && *tail && *tail != ';')
@@ -76,10 +78,8 @@ public:
 
     bool step() {
         const int rc = sqlite3_step(stmt_);
-        if (rc == SQLITE_ROW)
-            return true;
-        if (rc == SQLITE_DONE)
-            return false;
+        if (rc == SQLITE_ROW) return true;
+        if (rc == SQLITE_DONE) return false;
         fail(db_);
     }
     sqlite3_stmt* get() const { return stmt_; }
@@ -106,8 +106,7 @@ Value readColumn(sqlite3_stmt* stmt, int i, bool dateColumn) {
         std::string text(reinterpret_cast<const char*>(sqlite3_column_text(stmt, i)),
                          static_cast<size_t>(sqlite3_column_bytes(stmt, i)));
         if (dateColumn)
-            if (auto d = parseDate(text))
-                return Value(*d);
+            if (auto d = parseDate(text)) return Value(*d);
         return Value(std::move(text));
     }
     }
@@ -129,7 +128,9 @@ sqlite3* openFile(const std::filesystem::path& file, int flags) {
 } // namespace
 
 Store::Store(sqlite3* db) : db_(db) {}
-Store::~Store() { sqlite3_close(db_); }
+Store::~Store() {
+    sqlite3_close(db_);
+}
 
 std::unique_ptr<Store> Store::open(const std::filesystem::path& file) {
     if (!std::filesystem::is_regular_file(file))
@@ -181,11 +182,12 @@ void Store::executeNative(std::string_view sql) {
     }
 }
 
-long long Store::changes() const { return sqlite3_changes64(db_); }
+long long Store::changes() const {
+    return sqlite3_changes64(db_);
+}
 
 WriteGroup::WriteGroup(Store& store) : store_(store), active_(sqlite3_get_autocommit(store.handle()) != 0) {
-    if (active_)
-        store_.executeNative("BEGIN");
+    if (active_) store_.executeNative("BEGIN");
 }
 
 WriteGroup::~WriteGroup() {

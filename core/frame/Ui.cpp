@@ -43,13 +43,16 @@ namespace {
 const char* const kAnswerNames[] = {"", "OK", "Cancel", "Abort", "Retry", "Ignore", "Yes", "No"};
 }
 
-const char* answerName(MsgAnswer a) { return kAnswerNames[static_cast<int>(a)]; }
+const char* answerName(MsgAnswer a) {
+    return kAnswerNames[static_cast<int>(a)];
+}
 
 std::optional<MsgAnswer> answerFromName(const std::string& name) {
     for (int i = 1; i <= 7; ++i) {
         std::string n = kAnswerNames[i];
         if (n.size() == name.size() && std::equal(n.begin(), n.end(), name.begin(), [](char a, char b) {
-                return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
+                return std::tolower(static_cast<unsigned char>(a)) ==
+                       std::tolower(static_cast<unsigned char>(b));
             }))
             return static_cast<MsgAnswer>(i);
     }

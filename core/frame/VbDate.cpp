@@ -42,20 +42,18 @@ Civil civilFromDays(long z) {
 
 constexpr long kSerialOf1970 = 25569; // 1-Jan-1970 as a day serial from 30-Dec-1899
 
-const std::array<const char*, 12> kMonthNames = {"JANUARY", "FEBRUARY", "MARCH",     "APRIL",
-                                                 "MAY",     "JUNE",     "JULY",      "AUGUST",
-                                                 "SEPTEMBER", "OCTOBER", "NOVEMBER", "DECEMBER"};
+const std::array<const char*, 12> kMonthNames = {"JANUARY",   "FEBRUARY", "MARCH",    "APRIL",
+                                                 "MAY",       "JUNE",     "JULY",     "AUGUST",
+                                                 "SEPTEMBER", "OCTOBER",  "NOVEMBER", "DECEMBER"};
 
 int monthFromName(std::string_view word) {
     std::string up;
     for (char c : word)
         up.push_back(static_cast<char>(std::toupper(static_cast<unsigned char>(c))));
-    if (up.size() < 3)
-        return 0;
+    if (up.size() < 3) return 0;
     for (int i = 0; i < 12; ++i) {
         const std::string full = kMonthNames[i];
-        if (up == full || up == full.substr(0, 3) || (up == "SEPT" && i == 8))
-            return i + 1;
+        if (up == full || up == full.substr(0, 3) || (up == "SEPT" && i == 8)) return i + 1;
     }
     return 0;
 }
@@ -66,11 +64,9 @@ int secondsOfDay(double serial) {
 }
 
 bool allDigits(std::string_view s) {
-    if (s.empty())
-        return false;
+    if (s.empty()) return false;
     for (char c : s)
-        if (!std::isdigit(static_cast<unsigned char>(c)))
-            return false;
+        if (!std::isdigit(static_cast<unsigned char>(c))) return false;
     return true;
 }
 
@@ -82,8 +78,7 @@ int toInt(std::string_view s) {
 }
 
 bool validDay(int y, int m, int d) {
-    if (m < 1 || m > 12 || d < 1)
-        return false;
+    if (m < 1 || m > 12 || d < 1) return false;
     static const int len[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     const bool leap = (y % 4 == 0 && y % 100 != 0) || y % 400 == 0;
     return d <= len[m - 1] + (m == 2 && leap ? 1 : 0);
@@ -92,8 +87,7 @@ bool validDay(int y, int m, int d) {
 // Two-digit years take the window of the desk's run-time: 00-29 this century, 30-99 the last.
 int widenYear(std::string_view digits) {
     const int y = toInt(digits);
-    if (digits.size() > 2)
-        return y;
+    if (digits.size() > 2) return y;
     return y < 30 ? 2000 + y : 1900 + y;
 }
 
@@ -106,14 +100,11 @@ std::optional<int> parseTime(std::string_view t) {
             start = i + 1;
         }
     }
-    if (parts.size() < 2 || parts.size() > 3)
-        return std::nullopt;
+    if (parts.size() < 2 || parts.size() > 3) return std::nullopt;
     for (auto p : parts)
-        if (!allDigits(p) || p.size() > 2)
-            return std::nullopt;
+        if (!allDigits(p) || p.size() > 2) return std::nullopt;
     const int h = toInt(parts[0]), m = toInt(parts[1]), s = parts.size() == 3 ? toInt(parts[2]) : 0;
-    if (h > 23 || m > 59 || s > 59)
-        return std::nullopt;
+    if (h > 23 || m > 59 || s > 59) return std::nullopt;
     return h * 3600 + m * 60 + s;
 }
 
@@ -135,15 +126,33 @@ VbDate VbDate::fromYmdHms(int year, int month, int day, int hour, int minute, in
     return VbDate(fromYmd(year, month, day).serial_ + (hour * 3600 + minute * 60 + second) / 86400.0);
 }
 
-long VbDate::dayNumber() const { return static_cast<long>(std::floor(serial_)); }
-int VbDate::year() const { return static_cast<int>(civilFromDays(dayNumber() - kSerialOf1970).y); }
-int VbDate::month() const { return static_cast<int>(civilFromDays(dayNumber() - kSerialOf1970).m); }
-int VbDate::day() const { return static_cast<int>(civilFromDays(dayNumber() - kSerialOf1970).d); }
-int VbDate::hour() const { return secondsOfDay(serial_) / 3600; }
-int VbDate::minute() const { return secondsOfDay(serial_) / 60 % 60; }
-int VbDate::second() const { return secondsOfDay(serial_) % 60; }
-bool VbDate::hasTime() const { return secondsOfDay(serial_) != 0; }
-VbDate VbDate::dateOnly() const { return VbDate(static_cast<double>(dayNumber())); }
+long VbDate::dayNumber() const {
+    return static_cast<long>(std::floor(serial_));
+}
+int VbDate::year() const {
+    return static_cast<int>(civilFromDays(dayNumber() - kSerialOf1970).y);
+}
+int VbDate::month() const {
+    return static_cast<int>(civilFromDays(dayNumber() - kSerialOf1970).m);
+}
+int VbDate::day() const {
+    return static_cast<int>(civilFromDays(dayNumber() - kSerialOf1970).d);
+}
+int VbDate::hour() const {
+    return secondsOfDay(serial_) / 3600;
+}
+int VbDate::minute() const {
+    return secondsOfDay(serial_) / 60 % 60;
+}
+int VbDate::second() const {
+    return secondsOfDay(serial_) % 60;
+}
+bool VbDate::hasTime() const {
+    return secondsOfDay(serial_) != 0;
+}
+VbDate VbDate::dateOnly() const {
+    return VbDate(static_cast<double>(dayNumber()));
+}
 
 int VbDate::weekday() const {
     // 30-Dec-1899 (serial 0) was a Saturday, weekday 7.
@@ -162,8 +171,7 @@ std::optional<VbDate> parseDate(std::string_view text) {
     int seconds = 0;
     if (const size_t space = s.find(' '); space != std::string_view::npos) {
         auto t = parseTime(s.substr(space + 1));
-        if (!t)
-            return std::nullopt;
+        if (!t) return std::nullopt;
         seconds = *t;
         s = s.substr(0, space);
     }
@@ -176,8 +184,7 @@ std::optional<VbDate> parseDate(std::string_view text) {
             start = i + 1;
         }
     }
-    if (parts.size() != 3)
-        return std::nullopt;
+    if (parts.size() != 3) return std::nullopt;
 
     int y = 0, m = 0, d = 0;
     if (allDigits(parts[0]) && parts[0].size() == 4 && allDigits(parts[1]) && allDigits(parts[2])) {
@@ -189,27 +196,29 @@ std::optional<VbDate> parseDate(std::string_view text) {
     } else {
         return std::nullopt;
     }
-    if (!validDay(y, m, d))
-        return std::nullopt;
+    if (!validDay(y, m, d)) return std::nullopt;
     return VbDate(VbDate::fromYmd(y, m, d).serial() + seconds / 86400.0);
 }
 
 VbDate CDate(std::string_view text) {
     auto d = parseDate(text);
-    if (!d)
-        vberr::raise(vberr::TypeMismatch);
+    if (!d) vberr::raise(vberr::TypeMismatch);
     return *d;
 }
 
-bool IsDate(std::string_view text) { return parseDate(text).has_value(); }
+bool IsDate(std::string_view text) {
+    return parseDate(text).has_value();
+}
 
-long DateDiffDays(const VbDate& a, const VbDate& b) { return b.dayNumber() - a.dayNumber(); }
+long DateDiffDays(const VbDate& a, const VbDate& b) {
+    return b.dayNumber() - a.dayNumber();
+}
 
 std::string DateText(const VbDate& d) {
     char buf[32];
     if (d.hasTime())
-        std::snprintf(buf, sizeof buf, "%02d-%02d-%04d %02d:%02d:%02d", d.day(), d.month(), d.year(), d.hour(),
-                      d.minute(), d.second());
+        std::snprintf(buf, sizeof buf, "%02d-%02d-%04d %02d:%02d:%02d", d.day(), d.month(), d.year(),
+                      d.hour(), d.minute(), d.second());
     else
         std::snprintf(buf, sizeof buf, "%02d-%02d-%04d", d.day(), d.month(), d.year());
     return buf;
@@ -218,8 +227,8 @@ std::string DateText(const VbDate& d) {
 std::string IsoText(const VbDate& d) {
     char buf[32];
     if (d.hasTime())
-        std::snprintf(buf, sizeof buf, "%04d-%02d-%02d %02d:%02d:%02d", d.year(), d.month(), d.day(), d.hour(),
-                      d.minute(), d.second());
+        std::snprintf(buf, sizeof buf, "%04d-%02d-%02d %02d:%02d:%02d", d.year(), d.month(), d.day(),
+                      d.hour(), d.minute(), d.second());
     else
         std::snprintf(buf, sizeof buf, "%04d-%02d-%02d", d.year(), d.month(), d.day());
     return buf;

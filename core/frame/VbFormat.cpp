@@ -2,9 +2,9 @@
 
 #include "frame/VbNumber.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -18,7 +18,9 @@ const char* const kShortMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
 const char* const kLongMonths[] = {"January", "February", "March",     "April",   "May",      "June",
                                    "July",    "August",   "September", "October", "November", "December"};
 
-char lower(char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); }
+char lower(char c) {
+    return static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+}
 
 size_t runLength(std::string_view p, size_t i) {
     size_t n = 1;
@@ -36,13 +38,14 @@ std::string twoDigits(int v) {
 bool isDatePattern(std::string_view p) {
     for (char c : p) {
         const char l = lower(c);
-        if (l == 'd' || l == 'm' || l == 'y' || l == 'h' || l == 'n' || l == 's')
-            return true;
+        if (l == 'd' || l == 'm' || l == 'y' || l == 'h' || l == 'n' || l == 's') return true;
     }
     return false;
 }
 
-bool isNumberPattern(std::string_view p) { return !p.empty() && (p[0] == '0' || p[0] == '#'); }
+bool isNumberPattern(std::string_view p) {
+    return !p.empty() && (p[0] == '0' || p[0] == '#');
+}
 
 } // namespace
 
@@ -68,7 +71,10 @@ std::string Format(const VbDate& date, std::string_view p) {
             out += n == 1 ? std::to_string(date.second()) : twoDigits(date.second());
         } else if (c == 'm') {
             const int m = date.month();
-            out += n == 1 ? std::to_string(m) : n == 2 ? twoDigits(m) : n == 3 ? kShortMonths[m - 1] : kLongMonths[m - 1];
+            out += n == 1   ? std::to_string(m)
+                   : n == 2 ? twoDigits(m)
+                   : n == 3 ? kShortMonths[m - 1]
+                            : kLongMonths[m - 1];
         } else {
             out.append(n, p[i]);
         }
@@ -86,8 +92,7 @@ std::string Format(double number, std::string_view pattern) {
     std::snprintf(sci, sizeof sci, "%.14e", std::abs(number));
     std::string mant;
     for (const char* c = sci; *c && *c != 'e'; ++c)
-        if (std::isdigit(static_cast<unsigned char>(*c)))
-            mant.push_back(*c);
+        if (std::isdigit(static_cast<unsigned char>(*c))) mant.push_back(*c);
     const int exp10 = std::atoi(std::strchr(sci, 'e') + 1);
     // Lay the digits out as integer part and decimals, with zeros where the form has none.
     std::string intPart, frac;
@@ -115,10 +120,8 @@ std::string Format(double number, std::string_view pattern) {
     const size_t nz = whole.find_first_not_of('0');
     whole = nz == std::string::npos ? "0" : whole.substr(nz);
     std::string s = whole;
-    if (decimals > 0)
-        s += "." + all.substr(all.size() - decimals);
-    if (number < 0 && s.find_first_not_of("0.") != std::string::npos)
-        s.insert(s.begin(), '-');
+    if (decimals > 0) s += "." + all.substr(all.size() - decimals);
+    if (number < 0 && s.find_first_not_of("0.") != std::string::npos) s.insert(s.begin(), '-');
     return s;
 }
 
@@ -136,8 +139,7 @@ std::string Format(std::string_view text, std::string_view pattern) {
         }
     }
     if (isDatePattern(pattern)) {
-        if (auto d = parseDate(text))
-            return Format(*d, pattern);
+        if (auto d = parseDate(text)) return Format(*d, pattern);
     }
     return std::string(text);
 }

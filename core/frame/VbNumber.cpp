@@ -11,27 +11,29 @@
 namespace tallimark {
 
 double Round(double x, int n) {
-    if (n <= 0)
-        return std::nearbyint(x);
+    if (n <= 0) return std::nearbyint(x);
     const double scale = std::pow(10.0, n);
-    return std::nearbyint(x * scale) / scale;
+    const double scaled = x * scale;
+    // A magnitude past 2^53 has no decimals to round; scaling it could only overflow.
+    if (!std::isfinite(scaled)) return x;
+    return std::nearbyint(scaled) / scale;
 }
 
 namespace {
 
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+bool isBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
 
 // Scans sign, digits, point, digits and an exponent from text (blanks already removed).
 // Returns the number of characters that form the number; 0 when there is no digit.
 size_t scanNumber(std::string_view s, bool allowThousands) {
     size_t i = 0;
-    if (i < s.size() && (s[i] == '+' || s[i] == '-'))
-        ++i;
+    if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
     size_t digits = 0;
     while (i < s.size() && (std::isdigit(static_cast<unsigned char>(s[i])) ||
                             (allowThousands && s[i] == ',' && digits > 0))) {
-        if (s[i] != ',')
-            ++digits;
+        if (s[i] != ',') ++digits;
         ++i;
     }
     if (i < s.size() && s[i] == '.') {
@@ -41,19 +43,16 @@ size_t scanNumber(std::string_view s, bool allowThousands) {
             ++i;
         }
     }
-    if (digits == 0)
-        return 0;
+    if (digits == 0) return 0;
     if (i < s.size() && (s[i] == 'e' || s[i] == 'E' || s[i] == 'd' || s[i] == 'D')) {
         size_t j = i + 1;
-        if (j < s.size() && (s[j] == '+' || s[j] == '-'))
-            ++j;
+        if (j < s.size() && (s[j] == '+' || s[j] == '-')) ++j;
         size_t expDigits = 0;
         while (j < s.size() && std::isdigit(static_cast<unsigned char>(s[j]))) {
             ++expDigits;
             ++j;
         }
-        if (expDigits > 0)
-            i = j;
+        if (expDigits > 0) i = j;
     }
     return i;
 }
@@ -62,8 +61,7 @@ double parseScanned(std::string_view s) {
     std::string clean;
     clean.reserve(s.size());
     for (char c : s) {
-        if (c == ',')
-            continue;
+        if (c == ',') continue;
         clean.push_back(c == 'd' || c == 'D' ? 'E' : c);
     }
     return std::strtod(clean.c_str(), nullptr);
@@ -74,11 +72,9 @@ double parseScanned(std::string_view s) {
 double Val(std::string_view text) {
     std::string compact;
     for (char c : text)
-        if (!isBlank(c))
-            compact.push_back(c);
+        if (!isBlank(c)) compact.push_back(c);
     const size_t len = scanNumber(compact, false);
-    if (len == 0)
-        return 0.0;
+    if (len == 0) return 0.0;
     const double v = parseScanned(std::string_view(compact).substr(0, len));
     return std::isfinite(v) ? v : (vberr::raise(vberr::Overflow), 0.0);
 }
@@ -86,33 +82,32 @@ double Val(std::string_view text) {
 double CDbl(std::string_view text) {
     const std::string t = Trim(text);
     const size_t len = scanNumber(t, true);
-    if (len == 0 || len != t.size())
-        vberr::raise(vberr::TypeMismatch);
+    if (len == 0 || len != t.size()) vberr::raise(vberr::TypeMismatch);
     const double v = parseScanned(t);
-    if (!std::isfinite(v))
-        vberr::raise(vberr::Overflow);
+    if (!std::isfinite(v)) vberr::raise(vberr::Overflow);
     return v;
 }
 
 int32_t CLng(double x) {
     const double r = std::nearbyint(x);
-    if (!(r >= -2147483648.0 && r <= 2147483647.0))
-        vberr::raise(vberr::Overflow);
+    if (!(r >= -2147483648.0 && r <= 2147483647.0)) vberr::raise(vberr::Overflow);
     return static_cast<int32_t>(r);
 }
-int32_t CLng(std::string_view text) { return CLng(CDbl(text)); }
+int32_t CLng(std::string_view text) {
+    return CLng(CDbl(text));
+}
 
 int16_t CInt(double x) {
     const double r = std::nearbyint(x);
-    if (!(r >= -32768.0 && r <= 32767.0))
-        vberr::raise(vberr::Overflow);
+    if (!(r >= -32768.0 && r <= 32767.0)) vberr::raise(vberr::Overflow);
     return static_cast<int16_t>(r);
 }
-int16_t CInt(std::string_view text) { return CInt(CDbl(text)); }
+int16_t CInt(std::string_view text) {
+    return CInt(CDbl(text));
+}
 
 std::string NumText(double x) {
-    if (x == 0.0 || !std::isfinite(x))
-        return "0";
+    if (x == 0.0 || !std::isfinite(x)) return "0";
     char buf[40];
     std::snprintf(buf, sizeof buf, "%.15G", x);
     std::string s = buf;
@@ -120,7 +115,9 @@ std::string NumText(double x) {
     return s;
 }
 
-std::string NumText(int64_t x) { return std::to_string(x); }
+std::string NumText(int64_t x) {
+    return std::to_string(x);
+}
 
 std::string Str(double x) {
     std::string s = NumText(x);
@@ -146,36 +143,32 @@ std::string UCase(std::string_view text) {
 namespace vb {
 
 double checked(double result) {
-    if (!std::isfinite(result))
-        vberr::raise(vberr::Overflow);
+    if (!std::isfinite(result)) vberr::raise(vberr::Overflow);
     return result;
 }
 
 double div(double a, double b) {
-    if (b == 0.0)
-        vberr::raise(a == 0.0 ? vberr::Overflow : vberr::DivisionByZero);
+    if (b == 0.0) vberr::raise(a == 0.0 ? vberr::Overflow : vberr::DivisionByZero);
     return checked(a / b);
 }
 
 double log(double x) {
-    if (!(x > 0.0))
-        vberr::raise(vberr::InvalidCall);
-    return std::log(x);
+    if (!(x > 0.0)) vberr::raise(vberr::InvalidCall);
+    return checked(std::log(x));
 }
 
 double sqr(double x) {
-    if (x < 0.0 || std::isnan(x))
-        vberr::raise(vberr::InvalidCall);
-    return std::sqrt(x);
+    if (x < 0.0 || std::isnan(x)) vberr::raise(vberr::InvalidCall);
+    return checked(std::sqrt(x));
 }
 
-double exp(double x) { return checked(std::exp(x)); }
+double exp(double x) {
+    return checked(std::exp(checked(x)));
+}
 
 double pow(double x, double y) {
-    if (x < 0.0 && y != std::floor(y))
-        vberr::raise(vberr::InvalidCall);
-    if (x == 0.0 && y < 0.0)
-        vberr::raise(vberr::DivisionByZero);
+    if (x < 0.0 && y != std::floor(y)) vberr::raise(vberr::InvalidCall);
+    if (x == 0.0 && y < 0.0) vberr::raise(vberr::DivisionByZero);
     return checked(std::pow(x, y));
 }
 

@@ -35,7 +35,7 @@ std::string UCase(std::string_view text);
 
 // Checked arithmetic for the formulas: the faults the desk's run-time raised.
 namespace vb {
-double checked(double result); // Overflow on an infinity or NaN
+double checked(double result);  // Overflow on an infinity or NaN
 double div(double a, double b); // Division by zero; 0/0 is Overflow
 double log(double x);           // Invalid procedure call for x <= 0
 double sqr(double x);           // Invalid procedure call for x < 0

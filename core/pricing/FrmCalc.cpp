@@ -58,7 +58,9 @@ double FrmCalc::B_S_put(double S, double K, double T, double v, double r) const 
     return vb::checked(K * vb::exp(-r * T) * erf(-d2) - S * erf(-d1));
 }
 
-double FrmCalc::roundToPennies(double x) { return Round(x * 10000, 0) / 10000; }
+double FrmCalc::roundToPennies(double x) {
+    return Round(x * 10000, 0) / 10000;
+}
 
 void FrmCalc::compute_derivatives() {
     // The strike and price are taken as they stand and converted where they are used; the
@@ -81,15 +83,17 @@ void FrmCalc::compute_derivatives() {
     const double putDelta = callDelta - 1;
     const double callTheta =
         vb::checked(div(-S * nd1 * v, 2 * sqr(T)) - r * K * vb::exp(-r * T) * erf(d2)) / 365;
-    const double putTheta = vb::checked(div(-S * nd1 * v, 2 * sqr(T)) + r * K * vb::exp(-r * T) * erf(-d2)) / 365;
+    const double putTheta =
+        vb::checked(div(-S * nd1 * v, 2 * sqr(T)) + r * K * vb::exp(-r * T) * erf(-d2)) / 365;
     const double callRho = vb::checked(K * T * vb::exp(-r * T) * erf(d2) / 100);
     const double putRho = vb::checked(-K * T * vb::exp(-r * T) * erf(-d2) / 100);
     const double vega = vb::checked(S * sqr(T) * nd1 / 100);
     const double gamma = div(nd1, S * v * sqr(T));
 
     const std::pair<const char*, double> outputs[] = {
-        {"Text6", Call},      {"Text7", Put},       {"Text8", callDelta},  {"Text9", putDelta}, {"Text10", callTheta},
-        {"Text11", putTheta}, {"Text13", callRho}, {"Text14", putRho}, {"Text12", vega},     {"Text15", gamma}};
+        {"Text6", Call},       {"Text7", Put},       {"Text8", callDelta}, {"Text9", putDelta},
+        {"Text10", callTheta}, {"Text11", putTheta}, {"Text13", callRho},  {"Text14", putRho},
+        {"Text12", vega},      {"Text15", gamma}};
     for (const auto& [field, value] : outputs)
         setText(field, NumText(roundToPennies(value)));
 }

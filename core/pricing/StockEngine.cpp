@@ -19,8 +19,7 @@ double density(const StockInputs& in, double sigma) {
 
 double gamma(const StockInputs& in, double sigma) {
     const double T = vb::div(in.days, 365);
-    if (T == 0)
-        return 0;
+    if (T == 0) return 0;
     const double dens = density(in, sigma);
     return Round(vb::div(dens, in.S * sigma * vb::sqr(T)), 3);
 }
@@ -36,16 +35,15 @@ double vega(const StockInputs& in, double sigma) {
 double theta(const StockInputs& in, OptionSide side, double optionValue) {
     const bool call = side == OptionSide::Call;
     if (!(in.days > 1)) {
-        if (in.days != 1)
-            return 0;
-        if (call ? in.S <= in.K : in.S >= in.K)
-            return Round(optionValue, 3);
+        if (in.days != 1) return 0;
+        if (call ? in.S <= in.K : in.S >= in.K) return Round(optionValue, 3);
     }
     const double halfYear = call ? kHalfYear366 : kHalfYear360;
     const double T = treeYears(in.days, halfYear);
     const double sigma = in.sigmaC;
     const double root = vb::sqr(T);
-    const double d1 = vb::div(vb::log(vb::div(in.S, in.K)) + (in.r + vb::pow(sigma, 2) / 2) * T, sigma * root);
+    const double d1 =
+        vb::div(vb::log(vb::div(in.S, in.K)) + (in.r + vb::pow(sigma, 2) / 2) * T, sigma * root);
     const double d2 = d1 - sigma * root;
     const double dens = density(in, sigma);
     const double decay = vb::div(-in.S * dens * sigma, 2 * root);
@@ -55,7 +53,9 @@ double theta(const StockInputs& in, OptionSide side, double optionValue) {
 
 } // namespace
 
-double treeYears(double days, double halfYear) { return days * 0.5 / halfYear; }
+double treeYears(double days, double halfYear) {
+    return days * 0.5 / halfYear;
+}
 
 TreeClocks ladderClocks(const StockInputs& in) {
     const bool on360 = in.K <= in.S && in.sigmaC < 0.5 && in.sigmaP < 0.5;
@@ -74,8 +74,8 @@ double CalcD1(double x) {
     return Round(vb::div(sum, vb::sqr(2 * kPi)), 4);
 }
 
-BinomialFigures StockEngine::CalcBinomial(double S, double K, double T, double r, double sigma, double b, int n,
-                                          OptionSide cp) {
+BinomialFigures StockEngine::CalcBinomial(double S, double K, double T, double r, double sigma, double b,
+                                          int n, OptionSide cp) {
     const TreeArgs a{S, K, T, r, sigma, b, n, cp};
     const TreeResult t = tree_(a);
     optionValue_ = t.value;
@@ -90,13 +90,29 @@ double StockEngine::CalcBinomialNext(double S, double K, double T1, double r, do
     return Round(t.value, 3);
 }
 
-double StockEngine::NormDensityC(const StockInputs& in) const { return density(in, in.sigmaC); }
-double StockEngine::NormDensityP(const StockInputs& in) const { return density(in, in.sigmaP); }
-double StockEngine::GammaCall(const StockInputs& in) const { return gamma(in, in.sigmaC); }
-double StockEngine::GammaPut(const StockInputs& in) const { return gamma(in, in.sigmaP); }
-double StockEngine::VegaCall(const StockInputs& in) const { return vega(in, in.sigmaC); }
-double StockEngine::VegaPut(const StockInputs& in) const { return vega(in, in.sigmaP); }
-double StockEngine::ThetaCall(const StockInputs& in) const { return theta(in, OptionSide::Call, optionValue_); }
-double StockEngine::ThetaPut(const StockInputs& in) const { return theta(in, OptionSide::Put, optionValue_); }
+double StockEngine::NormDensityC(const StockInputs& in) const {
+    return density(in, in.sigmaC);
+}
+double StockEngine::NormDensityP(const StockInputs& in) const {
+    return density(in, in.sigmaP);
+}
+double StockEngine::GammaCall(const StockInputs& in) const {
+    return gamma(in, in.sigmaC);
+}
+double StockEngine::GammaPut(const StockInputs& in) const {
+    return gamma(in, in.sigmaP);
+}
+double StockEngine::VegaCall(const StockInputs& in) const {
+    return vega(in, in.sigmaC);
+}
+double StockEngine::VegaPut(const StockInputs& in) const {
+    return vega(in, in.sigmaP);
+}
+double StockEngine::ThetaCall(const StockInputs& in) const {
+    return theta(in, OptionSide::Call, optionValue_);
+}
+double StockEngine::ThetaPut(const StockInputs& in) const {
+    return theta(in, OptionSide::Put, optionValue_);
+}
 
 } // namespace tallimark::pricing

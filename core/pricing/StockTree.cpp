@@ -4,7 +4,6 @@
 #include "frame/VbNumber.h"
 
 #include <cfenv>
-#include <cmath>
 #include <cstdlib>
 #include <cstring>
 #include <utility>
@@ -27,12 +26,10 @@ namespace {
 class OverflowWatch {
 public:
     OverflowWatch() {
-        if (std::fetestexcept(kFlags))
-            std::feclearexcept(kFlags);
+        if (std::fetestexcept(kFlags)) std::feclearexcept(kFlags);
     }
     double check(double value) const {
-        if (std::fetestexcept(kFlags))
-            vberr::raise(vberr::Overflow);
+        if (std::fetestexcept(kFlags)) vberr::raise(vberr::Overflow);
         return vb::checked(value);
     }
 
@@ -40,15 +37,14 @@ private:
     static constexpr int kFlags = FE_OVERFLOW | FE_INVALID;
 };
 
-// The scalar part of a tree, shared by both builds so that they start from the same bits.
+// The scalar set-up of a tree, shared by both builds so that they start from the same bits.
 struct Setup {
     double u, d, p, q, df, z;
 };
 
 Setup setUp(const TreeArgs& a) {
     const double dt = vb::div(a.T, a.n);
-    if (a.n < 1)
-        vberr::raise(vberr::InvalidCall);
+    if (a.n < 1) vberr::raise(vberr::InvalidCall);
     const double u = vb::exp(a.sigma * vb::sqr(dt));
     const double d = vb::div(1, u);
     const double p = a.T > 0 ? vb::div(vb::exp(a.b * dt) - d, u - d) : 0;
@@ -92,8 +88,7 @@ constexpr int kLanes = 4;
     int i = 0;
     for (; i + kLanes <= m; i += kLanes)
         fourNodes(w, i);
-    if (i < m)
-        fourNodes(w, m - kLanes);
+    if (i < m) fourNodes(w, m - kLanes);
 }
 
 // Leaves and the walk back to the root; ping and pong take turns as the row read and written.
@@ -139,13 +134,10 @@ TreeResult plainTree(const TreeArgs& a) {
 }
 
 double treeDelta(const TreeArgs& a, const TreeResult& t) {
-    if (a.T > 0)
-        return vb::div(t.up - t.down, a.S * t.u - a.S * t.d);
+    if (a.T > 0) return vb::div(t.up - t.down, a.S * t.u - a.S * t.d);
     const bool call = a.side == OptionSide::Call;
-    if (a.S == a.K)
-        return (call ? 1.0 : -1.0) * 0.5;
-    if (a.S > a.K)
-        return call ? 1 : 0;
+    if (a.S == a.K) return (call ? 1.0 : -1.0) * 0.5;
+    if (a.S > a.K) return call ? 1 : 0;
     return call ? 0 : 1;
 }
 
@@ -156,14 +148,14 @@ TreePowers::TreePowers(double u, double d, int n) : u_(u), n_(n), up_(n + 1), do
     }
 }
 
-FastTree::FastTree() { powers_.reserve(kSlots); }
+FastTree::FastTree() {
+    powers_.reserve(kSlots);
+}
 
 const TreePowers& FastTree::powers(double u, double d, int n) {
     for (const TreePowers& p : powers_)
-        if (p.u() == u && p.n() == n)
-            return p;
-    if (powers_.size() < kSlots)
-        return powers_.emplace_back(u, d, n);
+        if (p.u() == u && p.n() == n) return p;
+    if (powers_.size() < kSlots) return powers_.emplace_back(u, d, n);
     TreePowers& slot = powers_[oldest_];
     slot = TreePowers(u, d, n);
     oldest_ = (oldest_ + 1) % kSlots;

@@ -12,7 +12,9 @@ namespace tallimark::pricing {
 enum class OptionSide { Call, Put };
 
 // The larger of two figures; b on a tie or when either is not a number.
-inline double MaxOf(double a, double b) { return a > b ? a : b; }
+inline double MaxOf(double a, double b) {
+    return a > b ? a : b;
+}
 
 struct TreeArgs {
     double S = 0;     // price of the underlying

@@ -58,41 +58,45 @@ protected:
     std::filesystem::path dir_;
 };
 
-bool contains(const std::string& s, const std::string& part) { return s.find(part) != std::string::npos; }
+bool contains(const std::string& s, const std::string& part) {
+    return s.find(part) != std::string::npos;
+}
 
 } // namespace
 
 TEST_F(BatchDesk, CalculatorDefaultsAndADivisionByZero) {
     const Outcome r = script("login ADMIN tallimark\n"
-                         "menu MDIForm1.mnucalc\n"
-                         "click FrmCalc.Command1\n"
-                         "dump FrmCalc\n"
-                         "set FrmCalc.Text3 0\n"
-                         "click FrmCalc.Command1\n"
-                         "dump FrmCalc\n");
+                             "menu MDIForm1.mnucalc\n"
+                             "click FrmCalc.Command1\n"
+                             "dump FrmCalc\n"
+                             "set FrmCalc.Text3 0\n"
+                             "click FrmCalc.Command1\n"
+                             "dump FrmCalc\n");
     ASSERT_EQ(r.exitCode, 0) << r.all();
     ASSERT_EQ(r.lines.size(), 3u) << r.all();
     EXPECT_TRUE(contains(r.lines[0], R"("Text6":{"text":"12.5941")")) << r.lines[0];
     EXPECT_TRUE(contains(r.lines[0], R"("Text9":{"text":"-0.0909")"));
     EXPECT_TRUE(contains(r.lines[0], R"("caption":"Calculator")"));
-    EXPECT_EQ(r.lines[1], R"({"msgbox":{"title":"Tallimark","text":"Run-time error '11':\n\nDivision by zero",)"
-                          R"("icon":"critical","buttons":"OK","answer":"OK"}})");
+    EXPECT_EQ(r.lines[1],
+              R"({"msgbox":{"title":"Tallimark","text":"Run-time error '11':\n\nDivision by zero",)"
+              R"("icon":"critical","buttons":"OK","answer":"OK"}})");
     EXPECT_TRUE(contains(r.lines[2], R"("Text3":{"text":"0"})"));
     EXPECT_TRUE(contains(r.lines[2], R"("Text6":{"text":"12.5941")")) << "the outputs keep what they had";
 }
 
 TEST_F(BatchDesk, TheLoginTakesTheLinesUntilItHides) {
     const Outcome r = script("set FrmPwd1.txt_user_name ADMIN\n"
-                         "set FrmPwd1.txt_password wrong\n"
-                         "click FrmPwd1.cmdokcan(0)\n"
-                         "dump FrmPwd1\n"
-                         "set FrmPwd1.txt_user_name \"  ADMIN  \"\n"
-                         "set FrmPwd1.txt_password tallimark\n"
-                         "click FrmPwd1.cmdokcan(0)\n"
-                         "dump MDIForm1\n");
+                             "set FrmPwd1.txt_password wrong\n"
+                             "click FrmPwd1.cmdokcan(0)\n"
+                             "dump FrmPwd1\n"
+                             "set FrmPwd1.txt_user_name \"  ADMIN  \"\n"
+                             "set FrmPwd1.txt_password tallimark\n"
+                             "click FrmPwd1.cmdokcan(0)\n"
+                             "dump MDIForm1\n");
     ASSERT_EQ(r.exitCode, 0) << r.all();
     ASSERT_EQ(r.lines.size(), 3u) << r.all();
-    EXPECT_TRUE(contains(r.lines[0], R"("title":"Invalid Login","text":"You Are Not a Valid User","icon":"critical")"));
+    EXPECT_TRUE(contains(r.lines[0],
+                         R"("title":"Invalid Login","text":"You Are Not a Valid User","icon":"critical")"));
     EXPECT_TRUE(contains(r.lines[1], R"("txt_user_name":{"text":""})")) << r.lines[1];
     EXPECT_TRUE(contains(r.lines[1], R"("visible":true)"));
     EXPECT_TRUE(contains(r.lines[2], R"({"dump":"MDIForm1")"));
@@ -100,9 +104,9 @@ TEST_F(BatchDesk, TheLoginTakesTheLinesUntilItHides) {
 
 TEST_F(BatchDesk, QueuedAnswersAndTheEndOfTheProgram) {
     const Outcome r = script("login ADMIN tallimark\n"
-                         "answer No\n"
-                         "close MDIForm1\n"
-                         "dump FrmCalc\n");
+                             "answer No\n"
+                             "close MDIForm1\n"
+                             "dump FrmCalc\n");
     ASSERT_EQ(r.exitCode, 0) << r.all();
     EXPECT_EQ(r.lines, std::vector<std::string>{R"({"end":true})"}) << "nothing runs after End";
 }

@@ -13,7 +13,8 @@ TEST(DateRules, TheDateTextsTheSystemWritesAllReadBack) {
         EXPECT_EQ(CDate(text), day) << text;
     EXPECT_EQ(CDate("30-SEPTEMBER-2026"), VbDate::fromYmd(2026, 9, 30));
     EXPECT_EQ(CDate("23-11-2026 10:15"), VbDate::fromYmdHms(2026, 11, 23, 10, 15, 0));
-    EXPECT_EQ(CDate("01-Jan-45"), VbDate::fromYmd(1945, 1, 1)); // two-digit years from 30 are the last century
+    EXPECT_EQ(CDate("01-Jan-45"),
+              VbDate::fromYmd(1945, 1, 1)); // two-digit years from 30 are the last century
     for (const char* bad : {"", "31-Nov-2026", "29-Feb-2026", "23-Nvb-2026", "2026", "abc", "23-11"})
         EXPECT_FALSE(IsDate(bad)) << bad;
     try {
@@ -29,10 +30,17 @@ TEST(DateRules, FormatPatterns) {
     struct Case {
         const char* pattern;
         const char* expected;
-    } cases[] = {{"DD-MMM-YYYY", "05-Mar-2026"}, {"dd-mmm-yyyy", "05-Mar-2026"}, {"DD-MMM-YY", "05-Mar-26"},
-                 {"DD-MM-YYYY", "05-03-2026"},   {"yyyymmdd", "20260305"},      {"yyyyddmm", "20260503"},
-                 {"yyyymm", "202603"},           {"ddmm", "0503"},              {"hh:mm", "09:07"},
-                 {"yyyy,mm,dd", "2026,03,05"},   {"DDMMMYYYY", "05Mar2026"}};
+    } cases[] = {{"DD-MMM-YYYY", "05-Mar-2026"},
+                 {"dd-mmm-yyyy", "05-Mar-2026"},
+                 {"DD-MMM-YY", "05-Mar-26"},
+                 {"DD-MM-YYYY", "05-03-2026"},
+                 {"yyyymmdd", "20260305"},
+                 {"yyyyddmm", "20260503"},
+                 {"yyyymm", "202603"},
+                 {"ddmm", "0503"},
+                 {"hh:mm", "09:07"},
+                 {"yyyy,mm,dd", "2026,03,05"},
+                 {"DDMMMYYYY", "05Mar2026"}};
     for (const auto& c : cases)
         EXPECT_EQ(Format(d, c.pattern), c.expected) << c.pattern;
     EXPECT_EQ(Format("23-11-2026", "DD-MMM-YYYY"), "23-Nov-2026");

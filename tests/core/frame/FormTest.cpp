@@ -23,8 +23,7 @@ public:
         on("TxtC", EventType::Change, [this](Event&) { log.push_back("change C"); });
         on("Cmd", EventType::Click, [this](Event& e) {
             log.push_back("click " + std::to_string(e.index));
-            if (e.index == 6)
-                throw VbError(11, "Division by zero");
+            if (e.index == 6) throw VbError(11, "Division by zero");
         });
     }
     std::vector<std::string> log;

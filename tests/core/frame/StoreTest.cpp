@@ -17,7 +17,9 @@ std::vector<std::string> columnsOf(Store& store, const std::string& table) {
     return names;
 }
 
-long long count(Store& store, const std::string& sql) { return store.query(sql).at(0).number(); }
+long long count(Store& store, const std::string& sql) {
+    return store.query(sql).at(0).number();
+}
 
 } // namespace
 
@@ -26,8 +28,8 @@ TEST(ReadyStore, HoldsEveryTableTheMonthsAndOneUser) {
     Store& store = desk.app.store();
     for (const char* table :
          {"ScriptMast", "MonthCheck", "Trans", "PortfolioMast", "PortfolioDet", "Tracker", "DummyTracker",
-          "UploadTracker", "FutOpt", "Eq", "UploadFile", "DumUploadFile", "Charges", "Closing", "Users", "ExpTemp",
-          "CallSummary1", "Call1", "FutStkSumDet"})
+          "UploadTracker", "FutOpt", "Eq", "UploadFile", "DumUploadFile", "Charges", "Closing", "Users",
+          "ExpTemp", "CallSummary1", "Call1", "FutStkSumDet"})
         EXPECT_NO_THROW(store.query("select * from " + std::string(table))) << table;
     EXPECT_EQ(columnsOf(store, "PortfolioMast").size(), 56u);
     EXPECT_EQ(columnsOf(store, "PortfolioMast").back(), "Field1");
@@ -54,8 +56,9 @@ TEST(ReadyStore, TrackerTablesShareOneShapeSoRowsCopyByPosition) {
     EXPECT_EQ(columnsOf(store, "Tracker"), columnsOf(store, "UploadTracker"));
     EXPECT_EQ(columnsOf(store, "UploadFile"), columnsOf(store, "DumUploadFile"));
 
-    store.execute("insert into Tracker (InType, InDesc, Symbol, Units, Traded, Strike, CP, TradeDt, Field3) values "
-                  "('S', 'Desc', 'ACCK2026', -50, 12.5, 300, 'C', cdate('23-Nov-2026'), '10:15')");
+    store.execute(
+        "insert into Tracker (InType, InDesc, Symbol, Units, Traded, Strike, CP, TradeDt, Field3) values "
+        "('S', 'Desc', 'ACCK2026', -50, 12.5, 300, 'C', cdate('23-Nov-2026'), '10:15')");
     store.execute("insert into dummytracker select * from tracker where symbol = 'ACCK2026'");
     store.execute("insert into UploadTracker select * from dummytracker");
     Recordset rs = store.query("select * from UploadTracker");
@@ -72,19 +75,23 @@ TEST(StoreDialect, TheDesksSqlRunsOnTheStore) {
     Store& store = desk.app.store();
     store.execute("insert into ScriptMast (ScrCode, ScrName, Field2) values ('ACC', 'ACC LTD', 250)");
     // Mid, bracketed names and text compared without regard to case.
-    Recordset rs = store.query("select ScrName as [NAME] from ScriptMast where ScrCode = Mid('acck2026', 1, 3)");
+    Recordset rs =
+        store.query("select ScrName as [NAME] from ScriptMast where ScrCode = Mid('acck2026', 1, 3)");
     ASSERT_FALSE(rs.eof());
     EXPECT_EQ(rs["NAME"].text(), "ACC LTD");
     EXPECT_EQ(rs["name"].text(), "ACC LTD");
-    EXPECT_EQ(store.query("select left(ScrName, 3) as L, Right (ScrName,3) as R from ScriptMast where "
-                          "ScrName = 'acc ltd'")["R"].text(),
+    EXPECT_EQ(store
+                  .query("select left(ScrName, 3) as L, Right (ScrName,3) as R from ScriptMast where "
+                         "ScrName = 'acc ltd'")["R"]
+                  .text(),
               "LTD");
     EXPECT_EQ(store.query("select * from ScriptMast where left(ScrCode,2 )='AC'").recordCount(), 1u);
 
     // Round goes to even, also inside SQL; Avg of no rows is null.
     store.execute("insert into DummyTracker (Symbol, InDesc, Field2) values ('X', 'D', 2.5)");
     store.execute("insert into DummyTracker (Symbol, InDesc, Field2) values ('X', 'D', 2.25)");
-    EXPECT_EQ(store.query("Select Round(Avg(field2),2) as avgVol From DummyTracker")["avgVol"].number(), 2.38);
+    EXPECT_EQ(store.query("Select Round(Avg(field2),2) as avgVol From DummyTracker")["avgVol"].number(),
+              2.38);
     EXPECT_EQ(store.query("select round(2.5) as r")["r"].number(), 2);
     EXPECT_TRUE(store.query("select avg(field2) as a from DummyTracker where symbol = 'none'")["a"].isNull());
 
@@ -96,9 +103,11 @@ TEST(StoreDialect, DateColumnsReadAndCompareAsDatesWhateverTextTheyGot) {
     test::Desk desk;
     Store& store = desk.app.store();
     // A plain date text, with the blank that one insert leaves inside the quotes.
-    store.execute("INSERT INTO DumUploadfile (tradedt,futstk,equity,symbol,Indesc)VALUES( '23-Nov-2026 ', 'f.txt','',"
-                  "'ACCK2026','D')");
-    store.execute("insert into DumUploadFile (TradeDt, Symbol, InDesc) values ('24-11-2026', 'ACCK2026', 'D')");
+    store.execute(
+        "INSERT INTO DumUploadfile (tradedt,futstk,equity,symbol,Indesc)VALUES( '23-Nov-2026 ', 'f.txt','',"
+        "'ACCK2026','D')");
+    store.execute(
+        "insert into DumUploadFile (TradeDt, Symbol, InDesc) values ('24-11-2026', 'ACCK2026', 'D')");
     EXPECT_EQ(count(store, "select count(*) as Cnt from DumUploadfile where symbol ='ACCK2026' and tradedt= "
                            "CDate('23-Nov-2026')"),
               1);
@@ -111,8 +120,9 @@ TEST(StoreDialect, DateColumnsReadAndCompareAsDatesWhateverTextTheyGot) {
     store.execute("insert into Closing (Symbol, Descr, Dt, ClBal) values ('S', 'D', '30-10-2026', 1)");
     store.execute("insert into Closing (Symbol, Descr, Dt, ClBal) values ('S', 'D', '02-11-2026', 2)");
     EXPECT_EQ(store.query("select Dt from Closing order by Dt desc")["Dt"].text(), "30-10-2026");
-    EXPECT_EQ(store.query("SELECT clBal AS OpBal From Closing WHERE cdate(DT) < CDATE('03-11-2026') order by "
-                          "cdate(Dt) desc")["OpBal"]
+    EXPECT_EQ(store
+                  .query("SELECT clBal AS OpBal From Closing WHERE cdate(DT) < CDATE('03-11-2026') order by "
+                         "cdate(Dt) desc")["OpBal"]
                   .number(),
               2);
 }

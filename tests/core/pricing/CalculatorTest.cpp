@@ -8,7 +8,7 @@ using namespace tallimark;
 
 namespace {
 
-const char* const kOutputs[] = {"Text6", "Text7",  "Text8",  "Text9",  "Text10",
+const char* const kOutputs[] = {"Text6",  "Text7",  "Text8",  "Text9",  "Text10",
                                 "Text11", "Text12", "Text13", "Text14", "Text15"};
 
 std::vector<std::string> outputs(FrmCalc& calc) {
@@ -27,8 +27,13 @@ TEST(Calculator, FiguresOfTypedInputs) {
         const char *strike, *price, *days, *vol, *rate;
         std::vector<std::string> expected; // Text6 .. Text15
     } cases[] = {
-        {"90", "100", "90", "20", "10",
-         {"12.5941", "0.4069", "0.9091", "-0.0909", "-0.0302", "-0.0062", "0.0787", "0.1931", "-0.0233", "0.016"}},
+        {"90",
+         "100",
+         "90",
+         "20",
+         "10",
+         {"12.5941", "0.4069", "0.9091", "-0.0909", "-0.0302", "-0.0062", "0.0787", "0.1931", "-0.0233",
+          "0.016"}},
     };
     for (const auto& c : cases) {
         test::Desk desk(false);
