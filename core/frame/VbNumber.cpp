@@ -107,12 +107,12 @@ int16_t CInt(std::string_view text) {
 }
 
 std::string NumText(double x) {
-    if (x == 0.0 || !std::isfinite(x)) return "0";
+    if (!std::isfinite(x))
+        vberr::raise(vberr::Overflow); // a fault of the formula, never a figure on the screen
+    if (x == 0.0) return "0";
     char buf[40];
     std::snprintf(buf, sizeof buf, "%.15G", x);
-    std::string s = buf;
-    // %G keeps trailing zeros out already; only the exponent needs the desk's form: E+15, E-05.
-    return s;
+    return buf; // %G drops trailing zeros and writes the exponent as the desk reads it: E+15, E-05
 }
 
 std::string NumText(int64_t x) {

@@ -23,7 +23,8 @@ int16_t CInt(std::string_view text);
 int16_t CInt(double x);
 
 // The default text of a double: at most 15 significant digits, exponent form only for very
-// small or very large magnitudes ("1E-05", "1.23456789012346E+15"), "0" for either zero.
+// small or very large magnitudes ("1E-05", "1.23456789012346E+15"), "0" for either zero. An
+// infinity or NaN raises Overflow.
 std::string NumText(double x);
 std::string NumText(int64_t x);
 // Str: the default text with a leading blank for a number that is not negative.

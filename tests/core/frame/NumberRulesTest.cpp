@@ -79,6 +79,7 @@ TEST(NumberRules, DefaultTextHasFifteenDigitsAndExponentOnlyAtTheEnds) {
     EXPECT_EQ(NumText(1234567890123456.0), "1.23456789012346E+15");
     EXPECT_EQ(NumText(0.0001), "0.0001");
     EXPECT_EQ(NumText(0.00001), "1E-05");
+    EXPECT_EQ(errorNumber([] { NumText(std::numeric_limits<double>::infinity()); }), vberr::Overflow);
     EXPECT_EQ(Str(5), " 5");
     EXPECT_EQ(Str(0), " 0");
     EXPECT_EQ(Str(-5), "-5");
