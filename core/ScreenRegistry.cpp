@@ -2,10 +2,23 @@
 #include "frame/Screens.h"
 
 #include "access/FrmPwd.h"
+#include "access/FrmSeek.h"
+#include "access/FrmUser.h"
+#include "access/Search.h"
+#include "admin/FrmScriptMast.h"
+#include "admin/Frmnth.h"
+#include "charges/FrmCharges.h"
+#include "admin/FrmNewMainScreen.h"
+#include "admin/FrmNewScript.h"
 #include "frame/EmptyScreen.h"
 #include "frame/Form.h"
 #include "frame/MDIForm1.h"
 #include "pricing/FrmCalc.h"
+#include "sheet/RiskSheet.h"
+#include "tracker/FrmOption.h"
+#include "tracker/FrmOption_New.h"
+#include "tracker/FrmUnderlying.h"
+#include "tracker/FrmUnderlying_New.h"
 
 #include <functional>
 #include <utility>
@@ -29,11 +42,23 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
         entry<FrmPwd1>(),
         entry<FrmPwd>(),
         entry<FrmCalc>(),
-        empty("FrmNewMainScreen", "Main Screen"),
-        empty("FrmNewScript", "New Sheet Detail.........By Tallimark"),
-        empty("FrmScriptMast", "Script Master ...Tallimark"),
-        empty("FrmCharges", "Charges.....Tallimark"),
-        empty("FrmUser", "Users....Tallimark"),
+        {RiskSheet::kStockName, [](App& app) { return std::make_unique<RiskSheet>(app, SheetKind::Stock); }},
+        {RiskSheet::kIndexName, [](App& app) { return std::make_unique<RiskSheet>(app, SheetKind::Index); }},
+        entry<FrmOption>(),
+        entry<FrmUnderlying>(),
+        entry<FrmOption_New>(),
+        entry<FrmUnderlying_New>(),
+        entry<FrmNewMainScreen>(),
+        entry<FrmNewScript>(),
+        empty("FrmSpan_Load", "Load Span File"),
+        empty("FrmCreatePon", "Create Position File"),
+        empty("FrmTwoContract", "Two Contract Strategy Program"),
+        entry<FrmScriptMast>(),
+        entry<Frmnth>(),
+        entry<FrmCharges>(),
+        entry<FrmUser>(),
+        entry<FrmSeek>(),
+        entry<search>(),
     };
     return all;
 }

@@ -172,8 +172,9 @@ void Form::failureBox(const std::string& procedure, const std::exception& error,
 }
 
 void Form::setFocus(const std::string& name) {
-    const Control& c = control(name);
-    if (!c.enabled || !c.visible) throw VbError(5, "Invalid procedure call or argument");
+    // A grid takes the focus as a control does.
+    const Control* c = grids_.count(name) ? nullptr : &control(name);
+    if (c && (!c->enabled || !c->visible)) throw VbError(5, "Invalid procedure call or argument");
     pendingFocus_ = name;
     if (depth_ == 0) applyPendingFocus();
 }

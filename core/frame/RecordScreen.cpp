@@ -1,8 +1,10 @@
 #include "frame/RecordScreen.h"
 
+#include "frame/App.h"
 #include "frame/ComProc.h"
 #include "frame/Ui.h"
 #include "frame/VbError.h"
+#include "frame/VbNumber.h"
 
 namespace tallimark {
 
@@ -37,6 +39,54 @@ void RecordScreen::failedBox(Failure failure) {
                        : failure == Failure::Updating ? "Failed in updating record"
                                                       : "Failed in deleting record";
     ui().msgBox({text, "Error", MsgButtons::Ok, MsgIcon::Critical});
+}
+
+bool RecordScreen::runStatement(const std::function<std::string()>& build, const char* procedure) {
+    try {
+        lastStatement.clear();
+        lastStatement = build();
+        app().store().execute(lastStatement);
+        return true;
+    } catch (const std::exception& e) {
+        if (procedure) failureBox(procedure, e, " No: ");
+        return false;
+    }
+}
+
+void RecordScreen::addField(const std::string& field, std::string caption) {
+    addControl(ControlKind::Label, "Lbl" + field.substr(3), std::move(caption));
+    addControl(ControlKind::TextBox, field).locked = true;
+}
+
+void RecordScreen::addFieldKeys() {
+    for (const std::string& name : controlOrder()) {
+        if (!hasControl(name)) continue;
+        const ControlKind kind = control(name).kind;
+        if (kind != ControlKind::TextBox && kind != ControlKind::Button) continue;
+        const bool textBox = kind == ControlKind::TextBox;
+        if (textBox) on(name, EventType::GotFocus, [this, name](Event&) { SelectAll(*this, name); });
+        on(name, EventType::KeyDown, [this, textBox](Event& e) {
+            if (e.keyCode == keys::Escape)
+                hide();
+            else if (textBox)
+                EnterAsTab(*this, e.keyCode);
+        });
+    }
+}
+
+void RecordScreen::procedureBox(const std::string& procedure, const std::exception& error) {
+    const auto* vb = dynamic_cast<const VbError*>(&error);
+    ui().msgBox({"Error in " + procedure + " procedure: " + error.what() +
+                 " No: " + std::to_string(vb ? vb->number() : 0)});
+}
+
+bool RecordScreen::seekRow(Recordset& rows, const std::string& column, const std::string& text) {
+    const std::string wanted = UCase(text);
+    for (rows.moveFirst(); !rows.eof(); rows.moveNext()) {
+        const Value& v = rows[column];
+        if (!v.isNull() && UCase(v.text()) == wanted) return true;
+    }
+    return false;
 }
 
 } // namespace tallimark

@@ -3,8 +3,10 @@
 #include "frame/SqlDialect.h"
 
 #include <cctype>
+#include <list>
 #include <sqlite3.h>
 #include <strings.h>
+#include <unordered_map>
 
 namespace tallimark {
 
@@ -57,22 +59,12 @@ namespace {
     throw StoreError(sqlite3_extended_errcode(db), sqlite3_errmsg(db));
 }
 
-// A statement handle that finalizes itself.
+// A prepared statement in use: reset when done, so that it holds no read open and can be run
+// again.
 class Statement {
 public:
-    Statement(sqlite3* db, std::string_view sql) : db_(db) {
-        const std::string mapped = sqldialect::toSqlite(sql);
-        const char* tail = nullptr;
-        if (sqlite3_prepare_v2(db, mapped.c_str(), static_cast<int>(mapped.size()), &stmt_, &tail) !=
-            SQLITE_OK)
-            fail(db);
-        if (!stmt_) throw StoreError(SQLITE_MISUSE, "The statement is empty.");
-        while (tail && *tail && std::isspace(static_cast<unsigned char>(*tail)))
-            ++tail;
-        if (tail && *tail && *tail != ';')
-            throw StoreError(SQLITE_ERROR, "Characters found after end of SQL statement.");
-    }
-    ~Statement() { sqlite3_finalize(stmt_); }
+    Statement(sqlite3* db, sqlite3_stmt* stmt) : db_(db), stmt_(stmt) {}
+    ~Statement() { sqlite3_reset(stmt_); }
     Statement(const Statement&) = delete;
     Statement& operator=(const Statement&) = delete;
 
@@ -86,7 +78,7 @@ public:
 
 private:
     sqlite3* db_;
-    sqlite3_stmt* stmt_ = nullptr;
+    sqlite3_stmt* stmt_;
 };
 
 bool isDateColumn(sqlite3_stmt* stmt, int i) {
@@ -127,8 +119,72 @@ sqlite3* openFile(const std::filesystem::path& file, int flags) {
 
 } // namespace
 
-Store::Store(sqlite3* db) : db_(db) {}
+// Prepared statements kept by their text. A sheet runs the same few hundred statements on every
+// refresh, and mapping and parsing each anew would cost more than running it. The least recently
+// used go once the cache is full.
+class StatementCache {
+public:
+    explicit StatementCache(sqlite3* db) : db_(db) {}
+    ~StatementCache() {
+        for (auto& [sql, entry] : entries_)
+            sqlite3_finalize(entry.stmt);
+    }
+    StatementCache(const StatementCache&) = delete;
+    StatementCache& operator=(const StatementCache&) = delete;
+
+    sqlite3_stmt* get(std::string_view sql) {
+        if (auto it = entries_.find(sql); it != entries_.end()) {
+            ages_.splice(ages_.begin(), ages_, it->second.age);
+            return it->second.stmt;
+        }
+        sqlite3_stmt* stmt = prepare(sql);
+        if (entries_.size() >= kCapacity) {
+            auto oldest = entries_.find(ages_.back());
+            sqlite3_finalize(oldest->second.stmt);
+            entries_.erase(oldest);
+            ages_.pop_back();
+        }
+        ages_.emplace_front(sql);
+        entries_.emplace(ages_.front(), Entry{stmt, ages_.begin()});
+        return stmt;
+    }
+
+private:
+    static constexpr size_t kCapacity = 1024;
+
+    sqlite3_stmt* prepare(std::string_view sql) {
+        const std::string mapped = sqldialect::toSqlite(sql);
+        sqlite3_stmt* stmt = nullptr;
+        const char* tail = nullptr;
+        if (sqlite3_prepare_v2(db_, mapped.c_str(), static_cast<int>(mapped.size()), &stmt, &tail) !=
+            SQLITE_OK)
+            fail(db_);
+        if (!stmt) throw StoreError(SQLITE_MISUSE, "The statement is empty.");
+        while (tail && *tail && std::isspace(static_cast<unsigned char>(*tail)))
+            ++tail;
+        if (tail && *tail && *tail != ';') {
+            sqlite3_finalize(stmt);
+            throw StoreError(SQLITE_ERROR, "Characters found after end of SQL statement.");
+        }
+        return stmt;
+    }
+
+    struct Hash {
+        using is_transparent = void;
+        size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
+    };
+    struct Entry {
+        sqlite3_stmt* stmt;
+        std::list<std::string>::iterator age;
+    };
+    sqlite3* db_;
+    std::list<std::string> ages_; // the texts, most recently used first
+    std::unordered_map<std::string, Entry, Hash, std::equal_to<>> entries_;
+};
+
+Store::Store(sqlite3* db) : db_(db), statements_(std::make_unique<StatementCache>(db)) {}
 Store::~Store() {
+    statements_.reset(); // every statement finalized before the connection can close
     sqlite3_close(db_);
 }
 
@@ -148,13 +204,13 @@ std::unique_ptr<Store> Store::create(const std::filesystem::path& file) {
 }
 
 void Store::execute(std::string_view sql) {
-    Statement st(db_, sql);
+    Statement st(db_, statements_->get(sql));
     while (st.step()) {
     }
 }
 
 Recordset Store::query(std::string_view sql) {
-    Statement st(db_, sql);
+    Statement st(db_, statements_->get(sql));
     const int n = sqlite3_column_count(st.get());
     std::vector<std::string> names;
     std::vector<bool> dates;

@@ -52,6 +52,8 @@ private:
     size_t pos_ = 0;
 };
 
+class StatementCache;
+
 class Store {
 public:
     // Opens an existing store file; a missing file fails as the open of an unregistered source.
@@ -72,6 +74,7 @@ public:
 private:
     explicit Store(sqlite3* db);
     sqlite3* db_;
+    std::unique_ptr<StatementCache> statements_;
 };
 
 // Groups the statements of one step so the store writes them at once. Commits in its destructor

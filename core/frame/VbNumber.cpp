@@ -106,6 +106,21 @@ int16_t CInt(std::string_view text) {
     return CInt(CDbl(text));
 }
 
+double CCur(std::string_view text) {
+    const double v = CDbl(text);
+    if (std::abs(v) > 922337203685477.5807) vberr::raise(vberr::Overflow);
+    return Round(v, 4);
+}
+
+bool IsNumeric(std::string_view text) {
+    try {
+        CDbl(text);
+        return true;
+    } catch (const VbError&) {
+        return false;
+    }
+}
+
 std::string NumText(double x) {
     if (!std::isfinite(x))
         vberr::raise(vberr::Overflow); // a fault of the formula, never a figure on the screen

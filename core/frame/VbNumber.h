@@ -21,6 +21,11 @@ int32_t CLng(std::string_view text);
 int32_t CLng(double x);
 int16_t CInt(std::string_view text);
 int16_t CInt(double x);
+// CCur: an amount of four decimals, ties to even; Type mismatch on text that is no number,
+// Overflow past the currency range.
+double CCur(std::string_view text);
+// IsNumeric: true when CDbl would read the text.
+bool IsNumeric(std::string_view text);
 
 // The default text of a double: at most 15 significant digits, exponent form only for very
 // small or very large magnitudes ("1E-05", "1.23456789012346E+15"), "0" for either zero. An

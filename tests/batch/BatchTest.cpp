@@ -1,67 +1,11 @@
 // The batch driver end to end: the real executable, a ready store and scripts of user actions.
-#include <array>
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <random>
-#include <sstream>
-#include <string>
-#include <sys/wait.h>
-#include <vector>
+#include "BatchFixture.h"
+
+using tallimark::test::contains;
+using tallimark::test::Outcome;
 
 namespace {
-
-struct Outcome {
-    int exitCode = -1;
-    std::vector<std::string> lines;
-    std::string all() const {
-        std::string s;
-        for (const auto& l : lines)
-            s += l + "\n";
-        return s;
-    }
-};
-
-class BatchDesk : public ::testing::Test {
-protected:
-    void SetUp() override {
-        std::random_device rd;
-        dir_ = std::filesystem::temp_directory_path() / ("tallimark-batch-" + std::to_string(rd()));
-        std::filesystem::create_directories(dir_);
-        ASSERT_EQ(run("--data " + dir_.string() + " --new-store").exitCode, 0);
-    }
-    void TearDown() override { std::filesystem::remove_all(dir_); }
-
-    Outcome run(const std::string& args) {
-        Outcome r;
-        const std::string cmd = std::string(TALLIMARK_BATCH_EXE) + " " + args + " 2>&1";
-        FILE* p = popen(cmd.c_str(), "r");
-        std::array<char, 4096> buf{};
-        std::string out;
-        while (size_t n = fread(buf.data(), 1, buf.size(), p))
-            out.append(buf.data(), n);
-        const int status = pclose(p);
-        r.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        std::istringstream in(out);
-        for (std::string line; std::getline(in, line);)
-            r.lines.push_back(line);
-        return r;
-    }
-
-    Outcome script(const std::string& text) {
-        const auto file = dir_ / "script.txt";
-        std::ofstream(file) << text;
-        return run("--data " + dir_.string() + " --today 2026-11-23 " + file.string());
-    }
-
-    std::filesystem::path dir_;
-};
-
-bool contains(const std::string& s, const std::string& part) {
-    return s.find(part) != std::string::npos;
-}
-
+class BatchDesk : public tallimark::test::BatchFixture {};
 } // namespace
 
 TEST_F(BatchDesk, CalculatorDefaultsAndADivisionByZero) {

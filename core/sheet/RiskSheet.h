@@ -1,0 +1,199 @@
+#pragma once
+// The risk sheet: one screen model for one script and expiry, with the strike ladder va1, the
+// sheet's fields and its members. FrmPort5 (stock and futures) and FrmPortfolioIndex (index) are
+// two instances of this one class; the kind chooses the model (the 100-step tree or closed-form
+// Black-Scholes) and the smaller field set of the index sheet. The live state is the text of the
+// fields and cells: every procedure reads text, converts, computes and writes text back.
+#include "pricing/IndexEngine.h"
+#include "pricing/StockEngine.h"
+#include "sheet/SheetScreen.h"
+
+#include <array>
+#include <exception>
+#include <functional>
+#include <string>
+
+namespace tallimark {
+
+class Grid;
+class Value;
+class VbDate;
+
+enum class SheetKind { Stock, Index };
+
+class RiskSheet : public SheetScreen {
+public:
+    static constexpr const char* kStockName = "FrmPort5";
+    static constexpr const char* kIndexName = "FrmPortfolioIndex";
+    // The ladder and its colours.
+    static constexpr const char* kLadder = "va1";
+    static constexpr int kLadderCols = 16;
+    static constexpr int kDesignRows = 500; // rows the ladder has before a sheet sizes it
+    static constexpr Rgb kGround = RGB(0, 0, 0);
+    static constexpr Rgb kCallText = RGB(255, 255, 0);
+    static constexpr Rgb kPutText = RGB(0, 255, 0);
+    static constexpr Rgb kShortText = RGB(255, 0, 0);  // negative amounts and sold units
+    static constexpr Rgb kLongText = RGB(0, 255, 255); // positive amounts and bought units
+
+    RiskSheet(App& app, SheetKind kind);
+
+    SheetKind kind() const { return kind_; }
+    bool isIndex() const { return kind_ == SheetKind::Index; }
+    Grid& va1();
+
+    // Members of the sheet, as the other screens read them.
+    double IntRate = 0;
+    long AStrike = 0, BStrike = 0;
+    double StrikeStep = 0;
+    double ContractSize = 0;
+    double ExMarginPct = 0;
+    std::string SheetType, SheetDesc, SheetDate, ExpDtText;
+    double CurStrike = 0;
+    std::string SavedDelNeutral, SavedBalance;
+    std::string PrevMktPrice, PrevDays, PrevImpVol, PrevImpVolP;
+    std::array<double, 4> UpMktPrice{}, UpBal{}; // Up1, Up2, Dn1, Dn2
+    double CallDelta = 0, CallVega = 0, CallTheta = 0, CallGamma = 0;
+    double PutDelta = 0, PutVega = 0, PutTheta = 0, PutGamma = 0;
+    double ScenPrice = 0, ScenOptValue = 0, ScenFutValue = 0;
+    // The volatilities of the row in hand: a walk refreshes only the side of each row, so the
+    // other side is what the row before left. The row repricing reads them as the last run left.
+    double SigmaC = 0, SigmaP = 0;
+    // The index model's inputs of the row in hand.
+    double CurDays = 0, CurVol = 0;
+
+    // The price of the last tree run; the stock thetas hand it back on the last day.
+    double OptionValue() const { return stock_.optionValue(); }
+    pricing::StockEngine& stockEngine() { return stock_; }
+    pricing::IndexEngine& indexEngine() { return index_; }
+
+    // Load (the opening of a sheet named by g_strSymbol and g_strDesc).
+    void DoInit() override;
+    void LoadSheet();
+    void PopulateLView1();
+    // Drops a sheet that was never saved: its Trans row and working rows.
+    void CancelData();
+
+    // The refresh cycle: a full recompute when key is 13 and TxtDays is filled.
+    void RefreshData(int key);
+    void FillLViewData();
+    void va1_Click(int col, int row);
+    std::string GetAvgVol();
+    void CalcPremium();
+    void CalcSheetGreeks();
+    void CalcDeltaNeutral1();
+    void ErrProcCalcBalance();
+    void ThetaBal();
+
+    // Scenarios and exposure.
+    void CalcUpDnBal();
+    void GetUpDnData();
+    void TotExposure();
+
+    // The ledger (DummyTracker) of the sheet. AddTrail stands on the active ladder row; the
+    // index sheet takes only units and price, its volatility being TxtImpVol.
+    void AddTrail(const std::string& Units, const std::string& Traded, const std::string& TradeTime = {},
+                  const std::string& TradeVol = {});
+    void AddStock(const std::string& Units, const std::string& Traded, const std::string& CashType,
+                  const std::string& TradeTime = {});
+    void UpdateTracker();
+    void ErrProcAddTracker();
+
+    // Averages and results from the ledger.
+    void CalcAvgOption();
+    void CalcAvgStock();
+    void CalcROption();
+    void CalcRStock();
+    void CalcOptionR();
+    void CalcFutureR();
+
+    // The field-change triggers: what leaving an input field does.
+    void TxtMktPrice_LostFocus();
+    void TxtDays_LostFocus();
+    void TxtImpVol_LostFocus();
+    void TxtImpVolP_LostFocus();
+    void DTPicker1_Change();
+
+protected:
+    // Runs a procedure under its trap: a failure shows "Error in <name> Procedure: <text> and
+    // No: <n>" and the procedure ends with what it had done left standing.
+    void trapped(const char* procedure, const std::function<void()>& body,
+                 const char* numberWords = " and No: ");
+    // The same box with the words as given before the error text.
+    void errorBox(const std::string& lead, const std::exception& error, const char* numberWords);
+
+    // Cells of the ladder as text.
+    const std::string& cell(int row, int col);
+    void setCell(int row, int col, const std::string& text);
+    // Rows of the ladder up to the last one with data; a 16-bit count, as the walks keep it.
+    int lastLadderRow();
+    // Paints rows from 2 in pairs: black ground, call text on the first, put text on the second.
+    void paintLadder();
+    // Units of a ladder row as its side colour shows them.
+    void markUnits(int row, double units);
+    bool isCallRow(int row) { return cell(row, 2) == "C"; }
+
+    // Field text helpers.
+    void set(const std::string& field, double value);
+    // A market input that is "0" or empty leaves the pricing walks.
+    bool zeroOrEmpty(const std::string& field);
+    bool pricingInputsMissing();
+    // The stock formulas' inputs from the fields, for the row strike in hand.
+    pricing::StockInputs stockInputs();
+    // The sheet key as the ledger statements write it.
+    std::string ledgerKey(const std::string& symbol, const std::string& desc) const;
+    std::string sheetLedgerKey();   // g_strSymbol, g_strDesc
+    std::string trimmedLedgerKey(); // Trim(TxtSymbol), Trim(g_strDesc)
+    // The first row's column of a query; 0 when there is no row or the value is null.
+    double sumOrZero(const std::string& sql, const char* column);
+    // A figure field read as money: an empty field counts 0.
+    double amount(const std::string& field);
+    // A column value as a number in a statement: "Null" where the ledger holds none.
+    static std::string sqlNumber(const Value& value);
+
+private:
+    void addFields();
+    void addLadder();
+    void wireEvents();
+    void addField(const std::string& field, const char* caption);
+    void colourBySign(const std::string& field);
+    // Validation on leaving an input field; false when the entry was refused.
+    bool validNumber(const std::string& field);
+    // The common trigger: refresh when the field differs from the value last seen.
+    void refreshOnChange(const std::string& field, std::string& previous);
+    void setPicker(const std::string& text);
+
+    // Fill steps.
+    void fillStockRow(int row, double& TotDelta, double& TotTheta, double& TotVega, double& TotGamma);
+    void fillIndexRow(int row);
+    void addDeltaTotals(int row, double T, double S, double K, double Units, double Delta, double& TotDelta);
+
+    // The closed-form figures of the clicked row.
+    struct RowGreeks {
+        double gamma = 0, vega = 0, theta = 0;
+    };
+    void hedge(const std::string& field, bool callRow, double H);
+    RowGreeks clickStock(int row, bool callRow);
+    RowGreeks clickIndex(bool callRow);
+    void writeHedges(int row, bool callRow, const RowGreeks& greeks);
+    void sheetGreeksStock();
+    void sheetGreeksIndex();
+    double scenarioValue(double T, bool call);
+    // Load steps.
+    void loadTrans();
+    void loadScript();
+    bool loadHead(); // false for a sheet never saved
+    void loadLadder();
+    void showCaption();
+    void setDaysToExpiry(const VbDate& today);
+    void copyWorkingRows();
+
+    SheetKind kind_;
+    pricing::StockEngine stock_;
+    pricing::IndexEngine index_;
+    bool settingPicker_ = false;
+};
+
+// The loaded screen of a kind, for the screens that work on the open sheet.
+RiskSheet& riskSheet(App& app, SheetKind kind);
+
+} // namespace tallimark

@@ -1,0 +1,107 @@
+// The sheet's working ledger in DummyTracker: trades appended by hand, the model values of held
+// series pushed into their rows, and the commit of the sheet's rows to Tracker.
+#include "frame/App.h"
+#include "frame/VbFormat.h"
+#include "frame/VbNumber.h"
+#include "sheet/RiskSheet.h"
+
+namespace tallimark {
+
+namespace {
+
+std::string whole(const std::string& text) {
+    return NumText(static_cast<int64_t>(CLng(text)));
+}
+
+std::string number(const std::string& text) {
+    return NumText(CDbl(text));
+}
+
+} // namespace
+
+void RiskSheet::AddTrail(const std::string& Units, const std::string& Traded, const std::string& TradeTime,
+                         const std::string& TradeVol) {
+    trapped("AddTrail", [&] {
+        const int row = va1().activeRow;
+        auto zeroIfBlank = [&](int col) {
+            return cell(row, col).empty() ? std::string("0") : cell(row, col);
+        };
+        const std::string delta = zeroIfBlank(7), theta = zeroIfBlank(10), vega = zeroIfBlank(12),
+                          gamma = zeroIfBlank(14);
+        // The row's value columns are worked out anew for this trade's units.
+        const std::string values =
+            q(SheetType.substr(0, 1)) + ", " + q(SheetDesc) + ", " + number(text("TxtMktPrice")) + ", " +
+            whole(Units) + ", " + number(Traded) + ", " + q(Trim(text("TxtSymbol"))) + ", " +
+            number(cell(row, 1)) + ", cdate(" + q(Format(text("TxtCurDt"), "DD-MMM-YYYY")) + "), " +
+            number(text("TxtImpVol")) + ", " + q(cell(row, 2)) + ", " + number(delta) + ", " +
+            number(cell(row, 5)) + ", " + whole(text("TxtDays")) + ", " + number(cell(row, 8)) + ", " +
+            NumText(Val(delta) / 100 * Val(Units)) + ", " + number(theta) + ", " +
+            NumText(Val(Units) * Val(theta)) + ", " + number(vega) + ", " + NumText(Val(Units) * Val(vega)) +
+            ", " + number(gamma) + ", " + NumText(Val(Units) * Val(gamma));
+        const char* const columns =
+            "insert into dummyTracker (InType,InDesc,MktPrice,Units,Traded,Symbol,Strike,"
+            "TradeDt,Vol,CP,delta,last,Days, DumThVal,DeltaVal,Theta,ThetaVal,Vega,"
+            "VegaVal,Gamma,GammaVal,";
+        // The index sheet keeps no time, and the sheet's call volatility stands for the trade's.
+        app().store().execute(isIndex() ? std::string(columns) + "Field2) values(" + values + ", " +
+                                              number(text("TxtImpVol")) + ")"
+                                        : std::string(columns) + "Field3,field2) values(" + values + ", " +
+                                              q(TradeTime) + ", " + number(TradeVol) + ")");
+    });
+}
+
+void RiskSheet::AddStock(const std::string& Units, const std::string& Traded, const std::string& CashType,
+                         const std::string& TradeTime) {
+    trapped("AddStock", [&] {
+        const std::string values =
+            q(SheetType.substr(0, 1)) + ", " + q(SheetDesc) + ", " + number(text("TxtMktPrice")) + ", " +
+            whole(Units) + ", " + number(Traded) + ", " + q(Trim(text("TxtSymbol"))) + ", cdate(" +
+            q(Format(text("TxtCurDt"), "DD-MMM-YYYY")) + "), " + number(text("TxtImpVol")) + ", 'S', " +
+            whole(text("TxtDays")) + ", " + q(Trim(CashType));
+        app().store().execute(
+            isIndex()
+                ? "insert into dummyTracker (InType,InDesc,MktPrice,Units,Traded,Symbol,TradeDt,Vol,CP,days,"
+                  "CashType) values(" +
+                      values + ")"
+                : "insert into dummyTracker (InType,InDesc,MktPrice,Units,Traded,Symbol,TradeDt,Vol,CP,days,"
+                  "Cashtype, field3) values(" +
+                      values + ", " + q(TradeTime) + " )");
+    });
+}
+
+void RiskSheet::UpdateTracker() {
+    trapped("UpdateTracker", [this] {
+        Store& store = app().store();
+        const Session& s = app().session();
+        const std::string key = "[symbol] = " + q(Trim(s.g_strSymbol)) + " and [indesc] = " + q(s.g_strDesc);
+        WriteGroup group(store);
+        // A flat series is left out: its rows keep the values of its last open moment, from
+        // which its realised result is worked out.
+        const int last = lastLadderRow();
+        for (int row = 2; row <= last; ++row) {
+            if (Trim(cell(row, 3)).empty() || CLng(cell(row, 3)) == 0) continue;
+            store.execute("update dummytracker set [last] =" + number(cell(row, 5)) +
+                          ", [vol] = " + number(cell(row, 6)) + ", [delta] = " + number(cell(row, 7)) +
+                          " , [DumThVal] = " + number(cell(row, 8)) + " where " + key +
+                          " and [strike] = " + number(cell(row, 1)) + " and [CP] = " + q(cell(row, 2)));
+        }
+    });
+}
+
+void RiskSheet::ErrProcAddTracker() {
+    try {
+        Store& store = app().store();
+        const std::string key = sheetLedgerKey();
+        WriteGroup group(store);
+        store.execute("delete from tracker where " + key);
+        // The index sheet commits whatever the working ledger holds: it keeps one sheet's rows.
+        store.execute(isIndex() ? "insert into tracker select * from dummytracker"
+                                : "insert into tracker select * from dummytracker where " + key);
+    } catch (const ProgramEnd&) {
+        throw;
+    } catch (const std::exception& e) {
+        errorBox("Error in ErrProcAddTracker procedure: ", e, " and No: ");
+    }
+}
+
+} // namespace tallimark

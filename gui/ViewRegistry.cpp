@@ -1,0 +1,79 @@
+#include "ViewRegistry.h"
+
+#include "access/FindViews.h"
+#include "access/FrmPwd.h"
+#include "access/FrmSeek.h"
+#include "access/FrmUser.h"
+#include "access/Search.h"
+#include "access/UserView.h"
+#include "admin/FrmScriptMast.h"
+#include "admin/Frmnth.h"
+#include "admin/MonthView.h"
+#include "admin/ScriptMastView.h"
+#include "charges/ChargesView.h"
+#include "charges/FrmCharges.h"
+#include "admin/FrmNewMainScreen.h"
+#include "admin/FrmNewScript.h"
+#include "admin/MainScreenView.h"
+#include "admin/NewSheetView.h"
+#include "access/LoginView.h"
+#include "frame/CaptionView.h"
+#include "frame/FormBinder.h"
+#include "frame/MDIForm1.h"
+#include "frame/MainWindow.h"
+#include "pricing/CalcView.h"
+#include "pricing/FrmCalc.h"
+#include "tracker/FrmOption.h"
+#include "tracker/FrmOption_New.h"
+#include "tracker/FrmUnderlying.h"
+#include "tracker/FrmUnderlying_New.h"
+#include "tracker/TradeEntryView.h"
+
+#include <map>
+#include <string>
+#include <type_traits>
+
+namespace tallimark {
+
+namespace {
+
+// A view that builds itself from the model (menus, say) takes it; the others find their model
+// through the binder alone.
+template <class V> QWidget* make(Form& form) {
+    if constexpr (std::is_constructible_v<V, Form&>)
+        return new V(form);
+    else
+        return new V;
+}
+
+using Maker = QWidget* (*)(Form&);
+
+// One line for each screen with a view of its own.
+const std::map<std::string, Maker, std::less<>> kViews = {
+    {MDIForm1::kName, make<MainWindow>},
+    {FrmPwd1::kName, make<LoginView>},
+    {FrmPwd::kName, make<LoginView>},
+    {FrmCalc::kName, make<CalcView>},
+    {FrmNewMainScreen::kName, make<MainScreenView>},
+    {FrmNewScript::kName, make<NewSheetView>},
+    {FrmOption::kName, make<TradeEntryView>},
+    {FrmUnderlying::kName, make<TradeEntryView>},
+    {FrmOption_New::kName, make<TradeEntryView>},
+    {FrmUnderlying_New::kName, make<TradeEntryView>},
+    {FrmSeek::kName, make<SeekView>},
+    {search::kName, make<SearchView>},
+    {FrmScriptMast::kName, make<ScriptMastView>},
+    {Frmnth::kName, make<MonthView>},
+    {FrmCharges::kName, make<ChargesView>},
+    {FrmUser::kName, make<UserView>},
+};
+
+} // namespace
+
+View makeView(Form& form) {
+    auto it = kViews.find(form.name());
+    QWidget* widget = it != kViews.end() ? it->second(form) : make<CaptionView>(form);
+    return {widget, new FormBinder(form, *widget)};
+}
+
+} // namespace tallimark

@@ -1,0 +1,26 @@
+#include "frame/Dispatch.h"
+
+#include "frame/App.h"
+#include "frame/Form.h"
+
+namespace tallimark {
+
+namespace {
+int depth = 0;
+}
+
+void dispatch(Form& form, const std::function<void()>& action) {
+    App& app = form.app();
+    ++depth;
+    try {
+        action();
+        form.flush();
+    } catch (const std::exception& e) {
+        // The models trap their own errors; an exception must still never cross Qt's event loop.
+        app.ui().msgBox({e.what(), kAppTitle, MsgButtons::Ok, MsgIcon::Critical});
+    }
+    --depth;
+    if (depth == 0) app.screens().collect();
+}
+
+} // namespace tallimark

@@ -1,0 +1,261 @@
+#include "frame/QtUi.h"
+
+#include "ViewRegistry.h"
+#include "frame/Dispatch.h"
+#include "frame/FileFilter.h"
+#include "frame/Form.h"
+#include "frame/FormBinder.h"
+#include "frame/MainWindow.h"
+#include "frame/ScriptedUi.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QEvent>
+#include <QFileDialog>
+#include <QLayout>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+namespace tallimark {
+
+namespace {
+
+// A screen shown modally goes only when its model hides it: Esc is a key for the screen's
+// handlers, and the close box asks the model.
+class ModalDialog : public QDialog {
+public:
+    using QDialog::QDialog;
+    void reject() override {}
+};
+
+const std::pair<MsgAnswer, QMessageBox::StandardButton> kAnswers[] = {
+    {MsgAnswer::Ok, QMessageBox::Ok},         {MsgAnswer::Cancel, QMessageBox::Cancel},
+    {MsgAnswer::Abort, QMessageBox::Abort},   {MsgAnswer::Retry, QMessageBox::Retry},
+    {MsgAnswer::Ignore, QMessageBox::Ignore}, {MsgAnswer::Yes, QMessageBox::Yes},
+    {MsgAnswer::No, QMessageBox::No}};
+
+QMessageBox::StandardButton buttonOf(MsgAnswer answer) {
+    for (const auto& [a, b] : kAnswers)
+        if (a == answer) return b;
+    return QMessageBox::Ok;
+}
+
+MsgAnswer answerOf(int button) {
+    for (const auto& [a, b] : kAnswers)
+        if (b == button) return a;
+    return MsgAnswer::Cancel;
+}
+
+QMessageBox::StandardButtons buttonsOf(MsgButtons buttons) {
+    switch (buttons) {
+    case MsgButtons::Ok:
+        return QMessageBox::Ok;
+    case MsgButtons::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case MsgButtons::AbortRetryIgnore:
+        return QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore;
+    case MsgButtons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case MsgButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case MsgButtons::RetryCancel:
+        return QMessageBox::Retry | QMessageBox::Cancel;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::Icon iconOf(MsgIcon icon) {
+    switch (icon) {
+    case MsgIcon::None:
+        return QMessageBox::NoIcon;
+    case MsgIcon::Critical:
+        return QMessageBox::Critical;
+    case MsgIcon::Question:
+        return QMessageBox::Question;
+    case MsgIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MsgIcon::Information:
+        return QMessageBox::Information;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QString qs(const std::string& s) {
+    return QString::fromStdString(s);
+}
+
+// A view of fixed size makes a window that grows and shrinks with it, as fields come and go.
+void followFixedSize(QWidget& host, const QWidget& view) {
+    if (view.layout() && host.layout() && view.layout()->sizeConstraint() == QLayout::SetFixedSize)
+        host.layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+// The area puts a new window beside the others, sized before its view has laid itself out: once
+// it has, the window is moved back inside the area where it fits.
+void keepInside(QMdiSubWindow& sub) {
+    QTimer::singleShot(0, &sub, [&sub] {
+        const QSize area = sub.mdiArea()->viewport()->size();
+        sub.move(std::max(0, std::min(sub.x(), area.width() - sub.width())),
+                 std::max(0, std::min(sub.y(), area.height() - sub.height())));
+    });
+}
+
+} // namespace
+
+QtUi::QtUi(Answerer answerer) : answerer_(std::move(answerer)) {}
+
+QtUi::~QtUi() {
+    // The models may be gone already: stop every view first, then close the windows, the
+    // subwindows going with the main frame.
+    std::vector<QPointer<QWidget>> hosts;
+    for (auto& [form, shown] : shown_) {
+        shown.binder->detach();
+        hosts.emplace_back(shown.host);
+    }
+    for (const QPointer<QWidget>& host : hosts)
+        delete host.data();
+}
+
+MsgAnswer QtUi::msgBox(const MsgBox& box) {
+    if (answerer_) return answerer_(box);
+    QMessageBox message(iconOf(box.icon), qs(box.title), qs(box.text), buttonsOf(box.buttons),
+                        activeWindow());
+    message.setDefaultButton(buttonOf(defaultAnswer(box.buttons)));
+    // The box wants an answer: the wait cursor does not belong over it.
+    if (busy_) QApplication::setOverrideCursor(Qt::ArrowCursor);
+    const int clicked = message.exec();
+    if (busy_) QApplication::restoreOverrideCursor();
+    return answerOf(clicked);
+}
+
+void QtUi::setBusy(bool busy) {
+    // The screens set and clear the busy cursor as a flag; Qt's override cursors stack.
+    if (busy == busy_) return;
+    busy_ = busy;
+    if (busy)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void QtUi::present(Form& form, QWidget* host, QWidget* view, FormBinder* binder, QDialog* dialog) {
+    host->installEventFilter(this);
+    shown_[&form] = {host, view, binder, dialog};
+    binder->attach();
+}
+
+QtUi::Shown QtUi::release(Form& form) {
+    auto it = shown_.find(&form);
+    const Shown shown = it->second;
+    shown_.erase(it);
+    shown.binder->detach();
+    form.setListener(nullptr);
+    if (shown.host == main_) main_ = nullptr;
+    return shown;
+}
+
+void QtUi::showModal(Form& form) {
+    View view = makeView(form);
+    auto* dialog = new ModalDialog(activeWindow());
+    auto* layout = new QVBoxLayout(dialog);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(view.widget);
+    followFixedSize(*dialog, *view.widget);
+    connect(view.widget, &QWidget::windowTitleChanged, dialog, &QWidget::setWindowTitle);
+    present(form, dialog, view.widget, view.binder, dialog);
+    if (form.visible()) dialog->exec();
+    // formHidden ends the dialog; a dialog ended otherwise still lets its screen go.
+    if (shown_.count(&form)) release(form);
+    delete dialog;
+}
+
+void QtUi::showForm(Form& form) {
+    if (auto it = shown_.find(&form); it != shown_.end()) {
+        QWidget* host = it->second.host;
+        if (auto* sub = qobject_cast<QMdiSubWindow*>(host)) sub->mdiArea()->setActiveSubWindow(sub);
+        host->raise();
+        host->activateWindow();
+        return;
+    }
+    View view = makeView(form);
+    QWidget* host = view.widget;
+    if (auto* frame = dynamic_cast<MainWindow*>(view.widget))
+        main_ = frame;
+    else if (main_) {
+        QMdiSubWindow* sub = main_->mdiArea().addSubWindow(view.widget);
+        keepInside(*sub);
+        host = sub;
+    }
+    // Without the main frame a screen stands as a window of its own.
+    followFixedSize(*host, *view.widget);
+    present(form, host, view.widget, view.binder, nullptr);
+    host->show();
+}
+
+void QtUi::formHidden(Form& form) {
+    if (!shown_.count(&form)) return;
+    const Shown shown = release(form);
+    if (shown.dialog) {
+        shown.dialog->done(0); // showModal disposes of it once its loop has run out
+        return;
+    }
+    shown.host->hide();
+    if (auto* sub = qobject_cast<QMdiSubWindow*>(shown.host)) sub->mdiArea()->removeSubWindow(sub);
+    // Not at once: the window's own event may be what hid the screen.
+    shown.host->deleteLater();
+}
+
+bool QtUi::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Close) return false;
+    for (const auto& [form, shown] : shown_) {
+        if (shown.host != watched) continue;
+        event->ignore();
+        Form& closing = *form;
+        dispatch(closing, [&closing] { closing.requestClose(); });
+        return true;
+    }
+    return false;
+}
+
+std::optional<std::string> QtUi::fileDialog(const FileDialog& dialog) {
+    QString start = qs(dialog.initialDir);
+    if (!dialog.fileName.empty()) start = QDir(start).filePath(qs(dialog.fileName));
+    const QString filter = qtFileFilter(dialog.filter);
+    const QString path = dialog.save
+                             ? QFileDialog::getSaveFileName(activeWindow(), qs(dialog.title), start, filter)
+                             : QFileDialog::getOpenFileName(activeWindow(), qs(dialog.title), start, filter);
+    if (path.isEmpty()) return std::nullopt;
+    return QDir::toNativeSeparators(path).toStdString();
+}
+
+void QtUi::endProgram() {
+    // The model has unloaded its screens and closed the store where the flow asks for it.
+    for (auto& [form, shown] : shown_) {
+        shown.binder->detach();
+        shown.host->hide();
+    }
+    if (busy_) QApplication::restoreOverrideCursor();
+    std::exit(0);
+}
+
+QWidget* QtUi::viewOf(const Form& form) const {
+    auto it = shown_.find(const_cast<Form*>(&form));
+    return it == shown_.end() ? nullptr : it->second.view;
+}
+
+QWidget* QtUi::activeWindow() const {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    return main_;
+}
+
+} // namespace tallimark

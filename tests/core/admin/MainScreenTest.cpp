@@ -1,0 +1,245 @@
+// The main screen: the list of sheets with their refresh dates, the current sheet, opening on
+// the screen of the sheet's type, the delete through every table, and the ticked rows.
+#include "AdminDesk.h"
+
+#include <gtest/gtest.h>
+
+using namespace tallimark;
+
+namespace {
+
+// Every table that keeps rows of a sheet, with the sheet's key columns in it.
+const std::pair<const char*, const char*> kSheetTables[] = {
+    {"Trans", "InSymbol, InDesc"},    {"PortfolioMast", "Symbol, Descr"}, {"PortfolioDet", "Symbol, Descr"},
+    {"Tracker", "Symbol, InDesc"},    {"DummyTracker", "Symbol, InDesc"}, {"DumUploadFile", "Symbol, InDesc"},
+    {"UploadFile", "Symbol, InDesc"}, {"Closing", "Symbol, Descr"}};
+
+// Three sheets in the store before the main screen loads.
+struct ThreeSheets : test::AdminDesk {
+    ThreeSheets() {
+        addSheet("RILK2026", "NOVEMBER For A", "S", "20-11-2026");
+        addSheet("RILK2026", "NOVEMBER For B", "S", "21-11-2026");
+        addSheet("NIFX2026", "NIFTY For C", "F", "22-11-2026");
+    }
+};
+
+struct MainDesk : ThreeSheets {
+    FrmNewMainScreen& m = mainScreen();
+    Grid& list = m.grid("ListView1");
+
+    void click(int row) {
+        list.activeRow = row;
+        Event e{EventType::Click};
+        e.row = row;
+        m.fire("ListView1", e);
+    }
+    // A row in each of the other seven tables for the sheet.
+    void fillTables(const std::string& symbol, const std::string& desc) {
+        for (const auto& [table, key] : kSheetTables)
+            if (std::string(table) != "Trans")
+                app.store().execute(std::string("insert into ") + table + " (" + key + ") values (" +
+                                    q(symbol) + ", " + q(desc) + ")");
+    }
+    std::vector<long long> rowsOf(const std::string& symbol, const std::string& desc) {
+        std::vector<long long> n;
+        for (const auto& [table, key] : kSheetTables) {
+            const std::string k(key);
+            const std::string descColumn = k.substr(k.find(", ") + 2);
+            n.push_back(count(std::string("select count(*) from ") + table + " where " +
+                              k.substr(0, k.find(',')) + " = " + q(symbol) + " and " + descColumn + " = " +
+                              q(desc)));
+        }
+        return n;
+    }
+    std::vector<std::string> symbols() {
+        std::vector<std::string> s;
+        for (int r = 1; r <= list.maxRows(); ++r)
+            s.push_back(list.text(r, 2));
+        return s;
+    }
+};
+
+} // namespace
+
+TEST(MainScreen, ListsEverySheetWithItsRefreshDate) {
+    MainDesk d;
+    d.addSheet("  ABK2026 ", "padded", "S", "2026-11-23");
+    d.m.PopulateLView();
+    EXPECT_TRUE(d.list.checkBoxes);
+    EXPECT_EQ(d.list.column(1).heading, "Symbol");
+    EXPECT_EQ(d.list.column(2).heading, "Description");
+    EXPECT_EQ(d.list.column(3).heading, "Refresh Date");
+    const std::vector<std::vector<std::string>> expected = {{"RILK2026", "NOVEMBER For A", "20-11-2026"},
+                                                            {"RILK2026", "NOVEMBER For B", "21-11-2026"},
+                                                            {"NIFX2026", "NIFTY For C", "22-11-2026"},
+                                                            {"ABK2026", "padded", "23-11-2026"}};
+    ASSERT_EQ(d.list.maxRows(), 4);
+    for (int r = 1; r <= 4; ++r)
+        for (int c = 1; c <= 3; ++c)
+            EXPECT_EQ(d.list.text(r, c), expected[r - 1][c - 1]) << r << "," << c;
+    EXPECT_EQ(d.list.activeRow, 1);
+    EXPECT_TRUE(d.m.control("Cmd(1)").enabled);
+    EXPECT_TRUE(d.m.control("Cmd(3)").enabled);
+}
+
+TEST(MainScreen, AnEmptyStoreGivesAnEmptyList) {
+    test::AdminDesk d;
+    FrmNewMainScreen& m = d.mainScreen();
+    EXPECT_EQ(m.grid("ListView1").maxRows(), 0);
+    EXPECT_EQ(m.grid("ListView1").activeRow, 0);
+    m.fire("Cmd(3)", EventType::Click); // nothing to delete, nothing asked
+    m.fire("Cmd(1)", EventType::Click); // no current sheet, nothing opens
+    EXPECT_TRUE(d.ui.boxes().empty());
+    EXPECT_TRUE(d.stock.loads.empty());
+}
+
+TEST(MainScreen, AClickMakesTheCurrentSheetAndOpenLoadsItOnItsTypesScreen) {
+    MainDesk d;
+    d.click(2);
+    const Session& s = d.app.session();
+    EXPECT_EQ(s.g_strSymbol, "RILK2026");
+    EXPECT_EQ(s.g_strDesc, "NOVEMBER For B");
+    EXPECT_EQ(s.gRefreshDate, "21-11-2026");
+
+    d.m.fire("Cmd(1)", EventType::Click);
+    EXPECT_EQ(s.gOpenMode, 1);
+    EXPECT_EQ(d.stock.loads, std::vector<std::string>{"RILK2026|NOVEMBER For B"});
+    EXPECT_TRUE(d.stock.visible());
+    EXPECT_EQ(d.stock.focused(), "TxtDays");
+
+    // A double click and Enter in the list open as the button does; any type but "S" is an
+    // index sheet.
+    d.addSheet("XYZA2026", "odd type", "Q", "23-11-2026");
+    d.m.PopulateLView();
+    d.click(3);
+    d.m.fire("ListView1", EventType::DblClick);
+    d.click(4);
+    Event enter{EventType::KeyDown};
+    enter.keyCode = keys::Enter;
+    EXPECT_EQ(d.m.fire("ListView1", enter).keyCode, 0);
+    EXPECT_EQ(d.index.loads, (std::vector<std::string>{"NIFX2026|NIFTY For C", "XYZA2026|odd type"}));
+    EXPECT_EQ(d.index.focused(), "TxtSymbol");
+    EXPECT_EQ(d.stock.loads.size(), 1u);
+    EXPECT_TRUE(d.ui.boxes().empty());
+}
+
+TEST(MainScreen, DeleteAsksAndClearsEveryTableOfOneSheetOnly) {
+    MainDesk d;
+    d.fillTables("RILK2026", "NOVEMBER For A");
+    d.fillTables("RILK2026", "NOVEMBER For B");
+    const std::vector<long long> whole(8, 1);
+    ASSERT_EQ(d.rowsOf("RILK2026", "NOVEMBER For B"), whole);
+
+    d.click(2);
+    d.ui.queueAnswer(MsgAnswer::No);
+    d.m.fire("Cmd(3)", EventType::Click);
+    ASSERT_EQ(d.ui.boxes().size(), 1u);
+    EXPECT_EQ(d.ui.boxes()[0].box.text, "Are you sure you wish to delete record?");
+    EXPECT_EQ(d.ui.boxes()[0].box.title, "Delete Record");
+    EXPECT_EQ(d.ui.boxes()[0].box.buttons, MsgButtons::YesNo);
+    EXPECT_EQ(d.rowsOf("RILK2026", "NOVEMBER For B"), whole);
+    EXPECT_EQ(d.list.maxRows(), 3);
+
+    d.ui.queueAnswer(MsgAnswer::Yes);
+    d.m.fire("Cmd(3)", EventType::Click);
+    EXPECT_EQ(d.rowsOf("RILK2026", "NOVEMBER For B"), std::vector<long long>(8, 0));
+    EXPECT_EQ(d.rowsOf("RILK2026", "NOVEMBER For A"), whole);
+    EXPECT_EQ(d.symbols(), (std::vector<std::string>{"NOVEMBER For A", "NIFTY For C"}));
+    EXPECT_EQ(d.list.activeRow, 1) << "the item before the deleted one";
+}
+
+TEST(MainScreen, TheSelectionMovesAndTheLastDeleteEmptiesTheList) {
+    MainDesk d;
+    d.list.setChecked(2, true);
+    d.click(1);
+    d.m.fire("Cmd(3)", EventType::Click); // the first button, Yes, answers
+    EXPECT_EQ(d.symbols(), (std::vector<std::string>{"NOVEMBER For B", "NIFTY For C"}));
+    EXPECT_TRUE(d.list.checked(1)) << "a tick moves with its row";
+    EXPECT_EQ(d.list.activeRow, 1);
+    d.m.fire("Cmd(3)", EventType::Click);
+    d.m.fire("Cmd(3)", EventType::Click);
+    EXPECT_EQ(d.list.maxRows(), 0);
+    EXPECT_EQ(d.list.activeRow, 0);
+    EXPECT_EQ(d.transRows(), 0);
+}
+
+TEST(MainScreen, ADateThatDoesNotMatchLeavesTheSheetsOwnRow) {
+    MainDesk d;
+    d.fillTables("NIFX2026", "NIFTY For C");
+    d.list.setText(3, 3, "01-01-2020");
+    d.click(3);
+    d.m.fire("Cmd(3)", EventType::Click);
+    EXPECT_EQ(d.rowsOf("NIFX2026", "NIFTY For C"), (std::vector<long long>{1, 0, 0, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(d.list.maxRows(), 2) << "gone from the list until it is drawn again";
+    d.m.PopulateLView();
+    EXPECT_EQ(d.list.maxRows(), 3);
+}
+
+TEST(MainScreen, PositionFileTakesTheTickedRows) {
+    MainDesk d;
+    d.m.show();
+    d.m.fire("Command2", EventType::Click);
+    ASSERT_EQ(d.ui.boxes().size(), 1u);
+    EXPECT_EQ(d.ui.boxes()[0].box.text,
+              "Please select the Scripts from the grid whose \"pon\" file is to be created.");
+    EXPECT_EQ(d.ui.boxes()[0].box.title, "Data Error");
+    EXPECT_EQ(d.ui.boxes()[0].box.icon, MsgIcon::Information);
+    EXPECT_EQ(d.m.focused(), "ListView1");
+    EXPECT_TRUE(d.m.visible());
+
+    d.list.setChecked(1, true);
+    d.list.setChecked(3, true);
+    d.m.fire("Command2", EventType::Click);
+    // Indices 0 to N-1 hold the ticked rows; the upper bound is N+1.
+    const Session& s = d.app.session();
+    EXPECT_EQ(s.gPonSymbols, (std::vector<std::string>{"RILK2026", "NIFX2026", "", ""}));
+    EXPECT_EQ(s.gPonDescs, (std::vector<std::string>{"NOVEMBER For A", "NIFTY For C", "", ""}));
+    EXPECT_FALSE(d.m.visible());
+    EXPECT_TRUE(d.app.screens().find("FrmCreatePon")->visible());
+}
+
+TEST(MainScreen, TwoContractWantsTwoSheetsOfOneType) {
+    MainDesk d;
+    auto& comparison = d.app.screens().get<test::TwoContractStandIn>();
+    d.list.setChecked(1, true);
+    d.list.setChecked(3, true);
+    d.m.fire("CmdTwoContract", EventType::Click);
+    EXPECT_EQ(d.takeBoxes(), std::vector<std::string>{"Selected Types of Portfolios not same"});
+    EXPECT_EQ(comparison.inits, 0);
+
+    d.list.setChecked(2, true);
+    d.m.fire("CmdTwoContract", EventType::Click);
+    EXPECT_EQ(d.takeBoxes(), std::vector<std::string>{"Run-time error '9':\n\nSubscript out of range"});
+
+    d.list.setChecked(3, false);
+    d.m.fire("CmdTwoContract", EventType::Click);
+    EXPECT_TRUE(d.ui.boxes().empty());
+    EXPECT_EQ(comparison.inits, 1);
+    EXPECT_EQ(comparison.Descr1, "NOVEMBER For A");
+    EXPECT_EQ(comparison.Descr2, "NOVEMBER For B");
+    EXPECT_EQ(comparison.RefreshDt2, "21-11-2026");
+    EXPECT_TRUE(comparison.visible());
+}
+
+TEST(MainScreen, ExitAndLoadSpanHideQuitOrEscEndsTheProgram) {
+    MainDesk d;
+    d.m.show();
+    d.m.fire("Command1", EventType::Click);
+    EXPECT_FALSE(d.m.visible());
+    EXPECT_TRUE(d.app.storeOpen());
+    d.m.show();
+    d.m.fire("Command3", EventType::Click); // Load Span hands over to its own screen
+    EXPECT_FALSE(d.m.visible());
+    EXPECT_TRUE(d.app.screens().find("FrmSpan_Load")->visible());
+
+    Event esc{EventType::KeyDown};
+    esc.keyCode = keys::Escape;
+    EXPECT_THROW(d.m.fire("Cmd(1)", esc), ProgramEnd);
+    EXPECT_FALSE(d.app.storeOpen());
+
+    MainDesk again;
+    EXPECT_THROW(again.m.fire("Cmd(4)", EventType::Click), ProgramEnd);
+    MainDesk closing;
+    EXPECT_THROW(closing.m.requestClose(), ProgramEnd);
+    EXPECT_EQ(closing.app.screens().find(FrmNewMainScreen::kName), nullptr);
+}

@@ -1,0 +1,153 @@
+// The sheet list and the new-sheet screen as the desk uses them: rows clicked and ticked,
+// commands pressed, a script typed, a month chosen from the list, keys pressed.
+#include "GuiDesk.h"
+
+#include "admin/FrmNewMainScreen.h"
+#include "admin/FrmNewScript.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableWidget>
+#include <QtTest>
+
+using namespace tallimark;
+
+class AdminViewTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<test::GuiDesk> desk;
+
+    template <class W = QLineEdit> static W* child(QWidget* view, const char* name) {
+        return view->findChild<W*>(QString::fromLatin1(name));
+    }
+    QWidget* show(Form& form) {
+        form.show();
+        QWidget* view = desk->ui.viewOf(form);
+        if (view) (void)QTest::qWaitForWindowActive(view->window());
+        return view;
+    }
+    void addSheet(const char* symbol, const char* desc, const char* day) {
+        desk->app.store().execute(
+            std::string("insert into Trans (InSymbol, InDesc, InType, Transdt) values ('") + symbol + "', '" +
+            desc + "', 'S', cdate('" + day + "'))");
+    }
+
+private slots:
+    void init() {
+        desk = std::make_unique<test::GuiDesk>();
+        desk->app.store().execute(
+            "insert into ScriptMast (ScrCode, ScrName, RateDiff) values ('RIL', 'RELIANCE', 2.5)");
+    }
+    void cleanup() { desk.reset(); }
+
+    void theListShowsTheSheetsAndAClickPicksOne() {
+        addSheet("RILK2026", "NOVEMBER For A", "20-11-2026");
+        addSheet("RILZ2026", "DECEMBER For B", "21-11-2026");
+        QWidget* view = show(desk->app.screens().get<FrmNewMainScreen>());
+        QVERIFY(view);
+        QCOMPARE(view->windowTitle(), "Main Screen");
+        auto* list = child<QTableWidget>(view, "ListView1");
+        QCOMPARE(list->rowCount(), 2);
+        QCOMPARE(list->horizontalHeaderItem(0)->text(), "Symbol");
+        QCOMPARE(list->horizontalHeaderItem(2)->text(), "Refresh Date");
+        QCOMPARE(list->item(1, 0)->text(), "RILZ2026");
+        QCOMPARE(list->item(1, 2)->text(), "21-11-2026");
+        QVERIFY(list->item(0, 0)->flags().testFlag(Qt::ItemIsUserCheckable));
+        QVERIFY(!list->item(0, 1)->flags().testFlag(Qt::ItemIsEditable));
+        const std::pair<const char*, const char*> captions[] = {{"Cmd(1)", "&Open"},
+                                                                {"Cmd(3)", "&Delete"},
+                                                                {"Cmd(4)", "Quit"},
+                                                                {"Command1", "E&xit"},
+                                                                {"Command2", "Pos &File"},
+                                                                {"Command3", "Load &Span"},
+                                                                {"CmdTwoContract", "2-Con&tract"}};
+        for (const auto& [name, caption] : captions)
+            QCOMPARE(child<QPushButton>(view, name)->text(), caption);
+
+        const QRect cell = list->visualRect(list->model()->index(1, 1));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
+        QCOMPARE(desk->app.session().g_strSymbol, "RILZ2026");
+        QCOMPARE(desk->app.session().g_strDesc, "DECEMBER For B");
+        QCOMPARE(desk->app.session().gRefreshDate, "21-11-2026");
+    }
+
+    void aTickGoesToThePositionFileAndDeleteDropsTheRow() {
+        addSheet("RILK2026", "NOVEMBER For A", "20-11-2026");
+        addSheet("RILZ2026", "DECEMBER For B", "21-11-2026");
+        FrmNewMainScreen& screen = desk->app.screens().get<FrmNewMainScreen>();
+        QWidget* view = show(screen);
+        auto* list = child<QTableWidget>(view, "ListView1");
+        list->item(1, 0)->setCheckState(Qt::Checked);
+        QVERIFY(screen.grid("ListView1").checked(2));
+
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualRect(list->model()->index(0, 1)).center());
+        QTest::mouseClick(child<QPushButton>(view, "Cmd(3)"), Qt::LeftButton); // Yes answers
+        QCOMPARE(desk->boxes.size(), size_t(1));
+        QCOMPARE(desk->boxes[0].text, "Are you sure you wish to delete record?");
+        QCOMPARE(list->rowCount(), 1);
+        QCOMPARE(list->item(0, 0)->text(), "RILZ2026");
+        QCOMPARE(list->item(0, 0)->checkState(), Qt::Checked);
+
+        QTest::mouseClick(child<QPushButton>(view, "Command2"), Qt::LeftButton);
+        QCOMPARE(desk->app.session().gPonSymbols.front(), "RILZ2026");
+        QVERIFY(!screen.visible());
+        QVERIFY(desk->ui.viewOf(*desk->app.screens().find("FrmCreatePon")));
+    }
+
+    void aNewSheetIsBuiltFromTheScriptAndTheMonth() {
+        FrmNewScript& screen = desk->app.screens().get<FrmNewScript>();
+        QWidget* view = show(screen);
+        QVERIFY(view);
+        QCOMPARE(view->windowTitle(), "New Sheet Detail.........By Tallimark");
+        QCOMPARE(child<QGroupBox>(view, "Frame1")->title(), "Type");
+        auto* futures = child<QRadioButton>(view, "OptInType(0)");
+        auto* stock = child<QRadioButton>(view, "OptInType(1)");
+        QCOMPARE(futures->text(), "Futures");
+        QVERIFY(stock->isChecked() && !futures->isChecked());
+        QCOMPARE(child<QPushButton>(view, "cmdScriptNm")->text(), "...");
+        QCOMPARE(child<QLabel>(view, "Label_TxtMStrike")->text(), "Mid Strike");
+        QVERIFY(!child(view, "TxtMonth"));
+
+        // Alt+F and Alt+S choose the type from any field.
+        QLineEdit* desc = child(view, "TxtDesc");
+        desc->setFocus(Qt::OtherFocusReason);
+        QTest::keyClick(desc, Qt::Key_F, Qt::AltModifier);
+        QVERIFY(futures->isChecked() && !stock->isChecked());
+        QTest::keyClick(desc, Qt::Key_S, Qt::AltModifier);
+        QVERIFY(stock->isChecked());
+
+        auto* script = child<QComboBox>(view, "DataCombo1");
+        QCOMPARE(script->count(), 1);
+        script->setFocus(Qt::OtherFocusReason);
+        QTest::keyClicks(script->lineEdit(), "RELIANCE");
+        QCOMPARE(child(view, "TxtRateDiff")->text(), "2.5");
+
+        auto* month = child<QComboBox>(view, "Combo1");
+        QCOMPARE(month->count(), 12);
+        month->setFocus(Qt::OtherFocusReason);
+        QTest::keyClick(month, Qt::Key_Down); // JANUARY
+        QTest::keyClick(month, Qt::Key_Tab);
+        QCOMPARE(child(view, "TxtInSymbol")->text(), "RILA2026");
+        QCOMPARE(desc->text(), "JANUARY For ");
+        QCOMPARE(child(view, "DTPicker1")->text(), "29-Jan-26");
+
+        QLineEdit* rate = child(view, "TxtDRate");
+        rate->setFocus(Qt::OtherFocusReason);
+        QTest::keyClicks(rate, "12"); // over the selected "10.00%"
+        QTest::keyClick(rate, Qt::Key_Tab);
+        QCOMPARE(rate->text(), "12.00%");
+        QVERIFY(desk->boxes.empty());
+
+        QTest::keyClick(rate, Qt::Key_Escape);
+        QVERIFY(!desk->app.screens().find(FrmNewScript::kName));
+    }
+};
+
+QTEST_MAIN(AdminViewTest)
+#include "AdminViewTest.moc"

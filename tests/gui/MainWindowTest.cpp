@@ -1,0 +1,115 @@
+// The main frame: the start-up that leads to it, its menus, and the screens they open in its
+// document area.
+#include "GuiDesk.h"
+
+#include "frame/EmptyScreen.h"
+#include "frame/MDIForm1.h"
+#include "frame/MainWindow.h"
+#include "frame/Startup.h"
+#include "pricing/FrmCalc.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QtTest>
+
+using namespace tallimark;
+
+class MainWindowTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<test::GuiDesk> desk;
+    MainWindow* window = nullptr;
+
+    QAction* menu(const char* name) { return window->findChild<QAction*>(QString::fromLatin1(name)); }
+    QList<QMdiSubWindow*> subwindows() { return window->mdiArea().subWindowList(); }
+
+private slots:
+    void init() {
+        desk = std::make_unique<test::GuiDesk>();
+        desk->app.session().g_UserName = "ADMIN";
+        desk->app.screens().get<MDIForm1>().show();
+        window = desk->ui.mainWindow();
+        QVERIFY(window);
+    }
+    void cleanup() { desk.reset(); }
+
+    void theMenusAreTheModelsMenus() {
+        QCOMPARE(window->windowTitle(), "Tallimark");
+        QStringList heads;
+        for (QAction* head : window->menuBar()->actions())
+            heads << head->text();
+        QCOMPARE(heads, QStringList({"&File", "&Master", "&Utility"}));
+
+        Form& frame = desk->app.screens().get<MDIForm1>();
+        for (const std::string& name : frame.controlOrder()) {
+            const Control& c = frame.control(name);
+            QAction* action = menu(name.c_str());
+            QVERIFY2(action, name.c_str());
+            QCOMPARE(action->text().toStdString(), c.text);
+            if (!c.menuParent.empty())
+                QVERIFY2(menu(c.menuParent.c_str())->menu()->actions().contains(action), name.c_str());
+        }
+        QCOMPARE(menu("mnucalc")->text(), "&Calculator");
+        QCOMPARE(menu("munopen")->text(), "&Open Sheet");
+    }
+
+    void theCalculatorOpensOnceInTheDocumentArea() {
+        menu("mnucalc")->trigger();
+        menu("mnucalc")->trigger();
+        QCOMPARE(subwindows().size(), 1);
+        QMdiSubWindow* sub = subwindows().first();
+        QCOMPARE(sub->windowTitle(), "Calculator");
+        QVERIFY(sub->findChild<QLineEdit*>("Text1"));
+        QVERIFY(sub->isVisible());
+    }
+
+    void aScreenWithoutItsOwnViewShowsItsCaption() {
+        EmptyScreen blank(desk->app, "FrmBlank", "Blank Screen");
+        blank.show();
+        QCOMPARE(subwindows().size(), 1);
+        QCOMPARE(subwindows().first()->windowTitle(), "Blank Screen");
+        QCOMPARE(subwindows().first()->findChild<QLabel*>()->text(), "Blank Screen");
+        blank.hide();
+    }
+
+    void closingASubwindowUnloadsItsScreen() {
+        menu("mnucalc")->trigger();
+        QVERIFY(desk->app.screens().find(FrmCalc::kName));
+        subwindows().first()->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(subwindows().isEmpty());
+        QVERIFY(!desk->app.screens().find(FrmCalc::kName));
+    }
+
+    void startUpLogsInAndShowsTheFrame() {
+        test::GuiDesk fresh;
+        QTimer::singleShot(0, [] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            QTest::keyClicks(dialog->findChild<QLineEdit*>("txt_user_name"), "ADMIN");
+            QTest::keyClicks(dialog->findChild<QLineEdit*>("txt_password"), schema::kFirstUserPassword);
+            QTest::mouseClick(dialog->findChild<QPushButton*>("cmdokcan(0)"), Qt::LeftButton);
+        });
+        QVERIFY(StartUp(fresh.app));
+        QCOMPARE(fresh.app.session().g_UserName, "ADMIN");
+        QVERIFY(fresh.ui.mainWindow());
+        QVERIFY(fresh.ui.mainWindow()->isVisible());
+    }
+
+    void aMissingStoreEndsTheStartUpWithItsBox() {
+        test::GuiDesk bare;
+        bare.app.closeStore();
+        QFile::remove(QString::fromStdString(bare.app.storeFile().string()));
+        QVERIFY(!StartUp(bare.app));
+        QCOMPARE(bare.boxes.size(), size_t(1));
+        QVERIFY(QString::fromStdString(bare.boxes[0].text).startsWith("Error in Main Procedure: "));
+        QVERIFY(!bare.ui.mainWindow());
+    }
+};
+
+QTEST_MAIN(MainWindowTest)
+#include "MainWindowTest.moc"
