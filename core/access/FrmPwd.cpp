@@ -41,6 +41,8 @@ FrmPwdBase::FrmPwdBase(App& app, const char* name, bool readsUserName, int h, in
         else
             this->app().end();
     });
+    // The window's close box leaves the login as Cancel does: nobody reaches the desk unchecked.
+    on("Form", EventType::QueryUnload, [this](Event&) { this->app().end(); });
     on("cmdchgpass", EventType::Click, [this](Event&) {
         if (text("cmdchgpass") == kChangeCaption)
             changePasswordClick();

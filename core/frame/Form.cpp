@@ -115,7 +115,8 @@ void Form::setValue(const std::string& name, bool value) {
     const bool changed = c.value != value;
     c.value = value;
     markChanged(name);
-    if (changed && value) fire(name, EventType::Click);
+    // A check box clicks on every change; an option button only when it becomes the chosen one.
+    if (changed && (value || c.kind == ControlKind::CheckBox)) fire(name, EventType::Click);
 }
 
 void Form::setItems(const std::string& name, std::vector<std::string> items) {

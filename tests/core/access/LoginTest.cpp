@@ -125,7 +125,8 @@ TEST(Login, TheSecondEditionKeepsTheCurrentUserName) {
     EXPECT_EQ(second.width, 6900);
 }
 
-TEST(Login, CancelEndsTheProgram) {
+TEST(Login, CancelAndTheCloseBoxEndTheProgram) {
     LoginDesk d;
     EXPECT_THROW(d.login.fire("cmdokcan(1)", EventType::Click), ProgramEnd);
+    EXPECT_THROW(d.login.requestClose(), ProgramEnd);
 }

@@ -26,14 +26,19 @@ TEST(NumberRules, RoundGoesHalfToEvenOnTheScaledDouble) {
         int n;
         double expected;
     } cases[] = {
-        {2.5, 0, 2},          {3.5, 0, 4},        {-2.5, 0, -2},          {0.5, 0, 0},
+        {2.5, 0, 2},
+        {3.5, 0, 4},
+        {-2.5, 0, -2},
+        {0.5, 0, 0},
         {2.125, 2, 2.12}, // 212.5 is a true tie: to the even 212
         {2.135, 2, 2.13}, // 2.135 * 100 is 213.49999999999997 in double, so it rounds down
         {1.005, 2, 1},    // likewise 100.49999999999999
-        {12.3456, 3, 12.346}, {-0.0005, 3, -0.0}, {99999.995, 2, 100000}, // the product rounds to 9999999.5
-                                                                          // in double, a tie to the even
-                                                                          // 10000000
-        {1e307, 2, 1e307},                                                // too large to scale: already whole
+        {12.3456, 3, 12.346},
+        {-0.0005, 3, -0.0},
+        {99999.995, 2, 100000}, // the product rounds to 9999999.5
+                                // in double, a tie to the even
+                                // 10000000
+        {1e307, 2, 1e307},      // too large to scale: already whole
     };
     for (const auto& c : cases)
         EXPECT_EQ(Round(c.x, c.n), c.expected) << c.x << " to " << c.n;
