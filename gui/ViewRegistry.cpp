@@ -23,6 +23,8 @@
 #include "frame/MainWindow.h"
 #include "pricing/CalcView.h"
 #include "pricing/FrmCalc.h"
+#include "sheet/RiskSheet.h"
+#include "sheet/SheetView.h"
 #include "tracker/FrmOption.h"
 #include "tracker/FrmOption_New.h"
 #include "tracker/FrmUnderlying.h"
@@ -66,6 +68,8 @@ const std::map<std::string, Maker, std::less<>> kViews = {
     {Frmnth::kName, make<MonthView>},
     {FrmCharges::kName, make<ChargesView>},
     {FrmUser::kName, make<UserView>},
+    {RiskSheet::kStockName, make<SheetView>},
+    {RiskSheet::kIndexName, make<SheetView>},
 };
 
 } // namespace

@@ -98,6 +98,18 @@ public:
     void UpdateTracker();
     void ErrProcAddTracker();
 
+    // The commands of the toolbar, by the key of their button ("Save", "Option", ...).
+    void Toolbar1_ButtonClick(const std::string& key);
+    // Save: the head, the ladder, the ledger and the upload bookkeeping, each under its own trap.
+    void SaveData();
+    void AddMaster();
+    void AddDetail();
+    void ErrProcAddUploadedFile();
+    // The close asked for by the close box, Esc or "Exit": true when the screen is to stay loaded.
+    bool closeRefused();
+    std::string CashTypeNow; // of the last underlying trade, "F" or "Q"
+    double FutTradeBefore = 0;
+
     // Averages and results from the ledger.
     void CalcAvgOption();
     void CalcAvgStock();
@@ -154,6 +166,12 @@ private:
     void addFields();
     void addLadder();
     void wireEvents();
+    void addCommands();
+    void keyPreview(Event& e);
+    void optionTrade();
+    void underlyingTrade();
+    // The screens that the remaining commands open.
+    void openCommandScreen(const std::string& key);
     void addField(const std::string& field, const char* caption);
     void colourBySign(const std::string& field);
     // Validation on leaving an input field; false when the entry was refused.

@@ -119,6 +119,7 @@ RiskSheet::RiskSheet(App& app, SheetKind kind)
     addFields();
     addLadder();
     wireEvents();
+    addCommands();
 }
 
 void RiskSheet::addField(const std::string& field, const char* caption) {

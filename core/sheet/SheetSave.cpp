@@ -1,0 +1,195 @@
+// Saving a sheet: its head in PortfolioMast, every ladder row in PortfolioDet, the working
+// ledger into Tracker and the day's upload bookkeeping into UploadFile.
+#include "frame/App.h"
+#include "frame/VbError.h"
+#include "frame/VbFormat.h"
+#include "frame/VbNumber.h"
+#include "sheet/RiskSheet.h"
+
+#include <utility>
+#include <vector>
+
+namespace tallimark {
+
+namespace {
+
+// A column and its value; a text value is quoted only as the statement is made, so a text the
+// store refuses fails the insert itself.
+struct Column {
+    std::string name, value;
+    bool text = false;
+};
+using Columns = std::vector<Column>;
+
+std::string insertInto(const std::string& table, const Columns& columns) {
+    std::string names, values;
+    for (const Column& c : columns) {
+        names += (names.empty() ? "" : ",") + c.name;
+        values += (values.empty() ? "" : ",") + (c.text ? q(c.value) : c.value);
+    }
+    return "insert into " + table + " (" + names + ") values(" + values + ")";
+}
+
+// A figure as the head stores it: a blank text counts 0.
+std::string figure(const std::string& text) {
+    const std::string t = Trim(text);
+    return t.empty() ? "0" : NumText(CDbl(t));
+}
+
+std::string dateValue(const std::string& text) {
+    return "cdate(" + q(text) + ")";
+}
+
+// Head columns in the order stored, and the fields that fill them: figures (blank as 0) or the
+// field's text as typed.
+struct HeadColumn {
+    const char* column;
+    const char* field;
+    bool asText;
+};
+const HeadColumn kHeadFields[] = {
+    {"MktPrice", "TxtMktPrice", false},
+    {"Days", "TxtDays", false},
+    {"Net", "TxtNet", false},
+    {"ImpVol", "TxtImpVol", false},
+    {"ImpVolP", "TxtImpVolP", false},
+    {"AvgVol", "TxtVol", false},
+    {"KeyOff", "TxtKeyOff", true},
+    {"Spread", "TxtSpread", true},
+    {"Premium", "TxtPremium", false},
+    {"Comm", "TxtComm", false},
+    {"CashU", "TxtCashU", false},
+    {"CashR", "TxtCashR", false},
+    {"FutureU", "TxtFutU", false},
+    {"FutureR", "TxtFutR", false},
+    {"OptionU", "TxtOptU", false},
+    {"OptionR", "TxtOptR", false},
+    {"Equity", "TxtEquity", false},
+    {"Balance", "TxtBalance", false},
+    {"TotComm", "TxtTotComm", false},
+    {"FutLots", "TxtFutLots", false},
+    {"FutTrade", "TxtFutTrade", false},
+    {"CashLots", "TxtCashLots", false},
+    {"CashTrade", "TxtCashTrade", false},
+    {"Delvalue", "TxtDelVal", false},
+    {"GammaVal", "TxtGamVal", false},
+    {"VegaVal", "TxtVegaVal", false},
+    {"ThetaVal", "TxtTheVal", false},
+    {"DelCont", "TxtDelCon", false},
+    {"GamCont", "TxtGamCon", false},
+    {"DelHedge", "TxtDelHed", true},
+    {"GamHedge", "TxtGamHed", true},
+    {"VegaHedge", "TxtVegaHed", true},
+    {"ThetaHedge", "TxtTheHed", true},
+    {"DelPts", "TxtDelPts", false},
+    {"GamPts", "TxtGamPts", false},
+    {"VegaPts", "TxtVegaPts", false},
+    {"ThetaPts", "TxtThePts", false},
+    {"DelNeutral", "txtdelneutral", false},
+};
+const HeadColumn kHeadTotals[] = {{"TotDelta", "TxtTotDel", false},
+                                  {"TotGamma", "TxtTotGamma", false},
+                                  {"TotVega", "TxtTotVega", false},
+                                  {"TotTheta", "TxtTotTheta", false}};
+const char* const kScenarioColumns[4][2] = {{"Up1MktPrice", "Up1Bal"},
+                                            {"Up2MktPrice", "Up2Bal"},
+                                            {"Dn1MktPrice", "Dn1Bal"},
+                                            {"Dn2MktPrice", "Dn2Bal"}};
+
+// Ladder columns 4 to 15 and where each is stored.
+const char* const kDetailColumns[] = {"Traded", "Last",     "Vol",  "Delta",   "DumThVal", "DeltaVal",
+                                      "Theta",  "ThetaVal", "Vega", "VegaVal", "Gamma",    "GammaVal"};
+
+} // namespace
+
+void RiskSheet::SaveData() {
+    trapped("SaveData", [this] {
+        // Noted first: a save that fails part way no longer asks at close.
+        SavedDelNeutral = Trim(text("txtdelneutral"));
+        SavedBalance = Trim(text("TxtBalance"));
+        AddMaster();
+        AddDetail();
+        ErrProcAddTracker();
+        ErrProcAddUploadedFile();
+    });
+}
+
+void RiskSheet::AddMaster() {
+    trapped("AddMaster", [this] {
+        const std::string Symbol = Trim(text("TxtSymbol"));
+        Columns head{{"Symbol", Symbol, true}, {"Descr", app().session().g_strDesc, true}};
+        auto add = [&](const HeadColumn& c) {
+            // A field the sheet kind lacks (the index sheet has no totals) stores 0.
+            const std::string t = hasControl(c.field) ? text(c.field) : std::string();
+            head.push_back({c.column, c.asText ? t : figure(t), c.asText});
+        };
+        for (const HeadColumn& c : kHeadFields)
+            add(c);
+        // The header's own date, as the sheet was opened; a sheet without one takes today's.
+        head.push_back({"Dt", dateValue(SheetDate.empty() ? text("TxtCurDt") : SheetDate)});
+        head.push_back({"ExpDt", dateValue(DateText(CDate(text("TxtExpDt"))))});
+        for (const HeadColumn& c : kHeadTotals)
+            add(c);
+
+        CalcUpDnBal();
+        for (int i = 0; i < 4; ++i) {
+            head.push_back({kScenarioColumns[i][0], NumText(UpMktPrice[i])});
+            head.push_back({kScenarioColumns[i][1], NumText(UpBal[i])});
+        }
+        if (!isIndex()) {
+            head.push_back({"field2", NumText(Val(text("TxtMargin")))});
+            head.push_back({"field1", text("TxtEx_Magin"), true});
+        }
+        Store& store = app().store();
+        store.execute("Delete from PortfolioMast where Symbol = " + q(Symbol) +
+                      " and Descr = " + q(Trim(app().session().g_strDesc)));
+        store.execute(insertInto("PortfolioMast", head));
+    });
+}
+
+void RiskSheet::AddDetail() {
+    trapped("AddDetail", [this] {
+        const std::string Symbol = Trim(text("TxtSymbol"));
+        const std::string today = dateValue(Format(app().clock().today(), "DD-MMM-YYYY"));
+        auto number = [this](int row, int col) {
+            const std::string t = Trim(cell(row, col));
+            return t.empty() ? std::string("0") : NumText(col == 3 ? CLng(CDbl(t)) : CDbl(t));
+        };
+        Store& store = app().store();
+        WriteGroup group(store);
+        store.execute("Delete from PortfolioDet where Symbol = " + q(Symbol) +
+                      " and Descr = " + q(Trim(app().session().g_strDesc)));
+        const int last = lastLadderRow();
+        for (int row = 2; row <= last; ++row) {
+            Columns det{{"Symbol", Symbol, true},   {"Descr", app().session().g_strDesc, true},
+                        {"Strike", number(row, 1)}, {"CP", cell(row, 2), true},
+                        {"Units", number(row, 3)},  {"Dt", today}};
+            for (int col = 4; col <= 15; ++col)
+                det.push_back({kDetailColumns[col - 4], number(row, col)});
+            if (!isIndex()) {
+                // Field2 marks a row that holds a position: its units wear a side colour.
+                const auto fore = va1().cell(row, 3).fore;
+                const bool held = fore == kShortText || fore == kLongText;
+                det.push_back({"Field2", held ? "True" : "False"});
+                const std::string mark = Trim(cell(row, 16));
+                det.push_back({"Field1", mark.empty() ? "0" : cell(row, 16), true});
+            }
+            store.execute(insertInto("PortfolioDet", det));
+        }
+    });
+}
+
+void RiskSheet::ErrProcAddUploadedFile() {
+    try {
+        Store& store = app().store();
+        WriteGroup group(store);
+        store.execute("delete from UploadFile where " + sheetLedgerKey());
+        store.execute("insert into UploadFile select * from DumUploadFile");
+    } catch (const ProgramEnd&) {
+        throw;
+    } catch (const std::exception& e) {
+        errorBox("Error in ErrProcAddUploadedFile procedure: ", e, " and No: ");
+    }
+}
+
+} // namespace tallimark

@@ -1,0 +1,112 @@
+// The risk sheets on screen with a saved sheet loaded: the ladder's colours and hidden columns,
+// the captions beside the fields, the toolbar and menu, and a command pressed from the view.
+#include "GuiDesk.h"
+
+#include "../core/sheet/SheetScenarios.h"
+#include "sheet/RiskSheet.h"
+
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QtTest>
+
+using namespace tallimark;
+
+class SheetViewTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<test::GuiDesk> desk;
+
+    template <class W = QLineEdit> static W* child(QWidget* view, const char* name) {
+        return view->findChild<W*>(QString::fromLatin1(name));
+    }
+    QWidget* open(const test::SavedSheet& sheet) {
+        sheet.save(desk->app.store());
+        desk->app.session().g_strSymbol = sheet.symbol();
+        desk->app.session().g_strDesc = sheet.desc();
+        RiskSheet& s = riskSheet(desk->app, sheet.kind);
+        s.DoInit();
+        s.show();
+        QWidget* view = desk->ui.viewOf(s);
+        if (view) (void)QTest::qWaitForWindowExposed(view->window());
+        // A look at the screen for the one building it: TALLIMARK_VIEW_SHOT=folder.
+        if (view && qEnvironmentVariableIsSet("TALLIMARK_VIEW_SHOT"))
+            view->window()->grab().save(qEnvironmentVariable("TALLIMARK_VIEW_SHOT") + "/" + sheet.name +
+                                        ".png");
+        return view;
+    }
+
+private slots:
+    void init() { desk = std::make_unique<test::GuiDesk>(); }
+    void cleanup() { desk.reset(); }
+
+    void theLadderIsADenseBlackGridInTheSidesColours() {
+        QWidget* view = open(test::kSavedSheets[0]);
+        QVERIFY(view);
+        auto* va1 = child<QTableWidget>(view, "va1");
+        QVERIFY(va1);
+        QCOMPARE(va1->columnCount(), 16);
+        QVERIFY(va1->isColumnHidden(7));
+        QVERIFY(va1->isColumnHidden(15));
+        QVERIFY(!va1->isColumnHidden(6));
+        QCOMPARE(va1->horizontalHeaderItem(0)->text(), "Strikes");
+        QCOMPARE(va1->palette().color(QPalette::Base), QColor(Qt::black));
+        // Row 4 is 980 C holding 15, row 3 960 P sold 6 (SheetScenarios.h).
+        QCOMPARE(va1->item(3, 0)->text(), "980");
+        QCOMPARE(va1->item(3, 0)->foreground().color(), QColor(255, 255, 0));
+        QCOMPARE(va1->item(2, 0)->foreground().color(), QColor(0, 255, 0));
+        QCOMPARE(va1->item(3, 2)->foreground().color(), QColor(0, 255, 255));
+        QCOMPARE(va1->item(2, 2)->foreground().color(), QColor(255, 0, 0));
+    }
+
+    void theFieldsStandWithTheirCaptionsAndTheCommandsWithTheirKeys() {
+        QWidget* view = open(test::kSavedSheets[0]);
+        QVERIFY(view);
+        QCOMPARE(child<QLabel>(view, "Label_txtdelneutral")->text(), "DELTA NEUTRAL");
+        QCOMPARE(child<QLabel>(view, "Label_TxtMktPrice")->text(), "Market");
+        QCOMPARE(child<QGroupBox>(view, "FraPosition")->title(), "Future/Stock");
+        QCOMPARE(child(view, "TxtMktPrice")->text(), "1010");
+        QVERIFY(child(view, "TxtMargin"));
+        const char* keys[] = {"Save",   "Option",   "UnderLying", "Cash",  "Trade Tracker",
+                              "Upload", "Simulate", "Graph",      "Print", "Exit"};
+        for (int i = 1; i <= 10; ++i) {
+            const QString name = QString("Toolbar1(%1)").arg(i);
+            auto* button = view->findChild<QPushButton*>(name);
+            QVERIFY(button);
+            QCOMPARE(button->text(), keys[i - 1]);
+        }
+        auto* save = view->findChild<QAction*>("mnSave");
+        QVERIFY(save);
+        QCOMPARE(save->text(), "&Save          ");
+        QCOMPARE(view->findChild<QAction*>("mnuexit")->text(), "E&xit");
+    }
+
+    void theIndexSheetShowsItsOwnSmallerSet() {
+        QWidget* view = open(test::kSavedSheets[2]);
+        QVERIFY(view);
+        QCOMPARE(child<QLabel>(view, "Label_txtdelneutral")->text(), "To be DELTA NEUTRAL");
+        QCOMPARE(child<QGroupBox>(view, "FraPosition")->title(), "Future/stock/Cash");
+        QVERIFY(!child(view, "TxtMargin"));
+        QVERIFY(!child(view, "TxtTotDel"));
+        QCOMPARE(child<QPushButton>(view, "cmdExl")->text(), "Excel");
+    }
+
+    void saveFromTheToolbarAndCtrlSFromAField() {
+        QWidget* view = open(test::kSavedSheets[0]);
+        QVERIFY(view);
+        desk->app.store().execute("delete from PortfolioDet");
+        child<QPushButton>(view, "Toolbar1(1)")->click();
+        QCOMPARE(desk->app.store().query("select count(*) from PortfolioDet").at(0).number(), 10.0);
+        desk->app.store().execute("delete from PortfolioDet");
+        QTest::keyClick(child(view, "TxtNet"), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(desk->app.store().query("select count(*) from PortfolioDet").at(0).number(), 10.0);
+        QVERIFY(desk->boxes.empty());
+    }
+};
+
+QTEST_MAIN(SheetViewTest)
+#include "SheetViewTest.moc"
