@@ -14,6 +14,7 @@
 #include "frame/Form.h"
 #include "frame/MDIForm1.h"
 #include "pricing/FrmCalc.h"
+#include "sheet/FrmSettingStrike.h"
 #include "sheet/RiskSheet.h"
 #include "tracker/FrmOption.h"
 #include "tracker/FrmOption_New.h"
@@ -42,6 +43,7 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
         entry<FrmPwd1>(),
         entry<FrmPwd>(),
         entry<FrmCalc>(),
+        entry<FrmSettingStrike>(),
         {RiskSheet::kStockName, [](App& app) { return std::make_unique<RiskSheet>(app, SheetKind::Stock); }},
         {RiskSheet::kIndexName, [](App& app) { return std::make_unique<RiskSheet>(app, SheetKind::Index); }},
         entry<FrmOption>(),

@@ -6,10 +6,7 @@ namespace tallimark {
 
 using pricing::OptionSide;
 
-namespace {
-constexpr double kCarry = 0.1; // the tree's b, fixed for every sheet
-constexpr int kSteps = 100;
-} // namespace
+namespace {} // namespace
 
 void RiskSheet::FillLViewData() {
     trapped("FillLViewData", [this] {

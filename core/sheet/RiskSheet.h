@@ -21,6 +21,11 @@ class VbDate;
 
 enum class SheetKind { Stock, Index };
 
+// The stock tree's carry b and its step count: fixed for every sheet, in the fill and the row
+// repricing alike.
+inline constexpr double kCarry = 0.1;
+inline constexpr int kSteps = 100;
+
 class RiskSheet : public SheetScreen {
 public:
     static constexpr const char* kStockName = "FrmPort5";
@@ -83,6 +88,11 @@ public:
     void CalcDeltaNeutral1();
     void ErrProcCalcBalance();
     void ThetaBal();
+    // Tab or Enter on the ladder: the active row priced at its own column 6 volatility.
+    void RepriceRow();
+    // F7: the strike setting dialog, then the ladder widened by the strikes it asked for.
+    void SetStrikes();
+    void AddStrikesInGrid(long NumAbove, long NumBelow, int Lowest, int Highest, int Step);
 
     // Scenarios and exposure.
     void CalcUpDnBal();
@@ -183,6 +193,10 @@ private:
     // Fill steps.
     void fillStockRow(int row, double& TotDelta, double& TotTheta, double& TotVega, double& TotGamma);
     void fillIndexRow(int row);
+    void repriceStockRow(int row, double S, double K, double r, double sigma, bool call);
+    void repriceIndexRow(int row, double S, double K, double sigma, bool call);
+    // A blank strike row of the widened ladder: no units, no average, painted for its side.
+    void newStrikeRow(int row, double strike, bool call);
     void addDeltaTotals(int row, double T, double S, double K, double Units, double Delta, double& TotDelta);
 
     // The closed-form figures of the clicked row.

@@ -60,7 +60,10 @@ void RiskSheet::addCommands() {
     for (const std::string& name : controlOrder())
         if (hasControl(name) && control(name).kind == ControlKind::TextBox)
             on(name, EventType::KeyDown, [this](Event& e) { keyPreview(e); });
-    on(kLadder, EventType::KeyDown, [this](Event& e) { keyPreview(e); });
+    on(kLadder, EventType::KeyDown, [this](Event& e) {
+        keyPreview(e);
+        if (e.keyCode == keys::Tab || e.keyCode == keys::Enter) RepriceRow();
+    });
     // The ladder's own keys are three digit characters: "9" steps right, "4" and "3" recompute
     // the active cell's figures.
     on(kLadder, EventType::KeyPress, [this](Event& e) {
@@ -95,6 +98,7 @@ void RiskSheet::keyPreview(Event& e) {
     if (e.keyCode == keys::F1) return press(2);
     if (e.keyCode == keys::F2) return press(3);
     if (e.keyCode == keys::F3) return setFocus(kLadder);
+    if (e.keyCode == keys::F7) return trapped("Form_KeyDown", [this] { SetStrikes(); });
     if (e.keyCode == keys::Escape) {
         e.keyCode = 0;
         requestClose();
