@@ -12,15 +12,7 @@ namespace {
 
 struct OpenSheet : test::SheetDesk {
     RiskSheet& s;
-    explicit OpenSheet(SheetKind kind) : s(openScenario(kind)) {}
-    RiskSheet& openScenario(SheetKind kind) {
-        if (kind == SheetKind::Stock) {
-            test::saveStockSheet(app.store(), "1010", "10-Dec-2026");
-            return open(kind, test::kStockSymbol, test::kStockDesc);
-        }
-        test::saveIndexSheet(app.store(), "6050", "10-Dec-2026");
-        return open(kind, test::kIndexSymbol, test::kIndexDesc);
-    }
+    explicit OpenSheet(SheetKind kind) : s(test::openSavedScenario(*this, kind)) {}
     const std::string& cell(int row, int col) { return s.va1().text(row, col); }
     // Types a volatility into a row and presses a key on the ladder.
     void reprice(int row, const std::string& vol, int key = keys::Tab) {

@@ -11,15 +11,7 @@ namespace {
 
 struct LiveSheet : test::SheetDesk {
     RiskSheet& s;
-    explicit LiveSheet(SheetKind kind = SheetKind::Stock) : s(openScenario(kind)) {}
-    RiskSheet& openScenario(SheetKind kind) {
-        if (kind == SheetKind::Stock) {
-            test::saveStockSheet(app.store(), "1010", "10-Dec-2026");
-            return open(kind, test::kStockSymbol, test::kStockDesc);
-        }
-        test::saveIndexSheet(app.store(), "6050", "10-Dec-2026");
-        return open(kind, test::kIndexSymbol, test::kIndexDesc);
-    }
+    explicit LiveSheet(SheetKind kind = SheetKind::Stock) : s(test::openSavedScenario(*this, kind)) {}
     // Marks the valuation date; a refresh writes it again.
     void mark() { s.setText("TxtCurDt", "x"); }
     bool refreshed() { return s.text("TxtCurDt") != "x"; }

@@ -144,4 +144,15 @@ inline const SavedSheet kSavedSheets[] = {
 
 #undef TALLIMARK_SAVED_SHEET
 
+// Writes the saved stock sheet (market 1010) or index sheet (market 6050), both expiring
+// 10-Dec-2026, and opens it on the desk.
+template <class Desk> RiskSheet& openSavedScenario(Desk& desk, SheetKind kind) {
+    if (kind == SheetKind::Stock) {
+        saveStockSheet(desk.app.store(), "1010", "10-Dec-2026");
+        return desk.open(kind, kStockSymbol, kStockDesc);
+    }
+    saveIndexSheet(desk.app.store(), "6050", "10-Dec-2026");
+    return desk.open(kind, kIndexSymbol, kIndexDesc);
+}
+
 } // namespace tallimark::test

@@ -11,15 +11,7 @@ namespace {
 
 struct OpenSheet : test::SheetDesk {
     RiskSheet& s;
-    explicit OpenSheet(SheetKind kind = SheetKind::Stock) : s(openScenario(kind)) {}
-    RiskSheet& openScenario(SheetKind kind) {
-        if (kind == SheetKind::Stock) {
-            test::saveStockSheet(app.store(), "1010", "10-Dec-2026");
-            return open(kind, test::kStockSymbol, test::kStockDesc);
-        }
-        test::saveIndexSheet(app.store(), "6050", "10-Dec-2026");
-        return open(kind, test::kIndexSymbol, test::kIndexDesc);
-    }
+    explicit OpenSheet(SheetKind kind = SheetKind::Stock) : s(test::openSavedScenario(*this, kind)) {}
     // The columns of the one ledger row a condition picks, as text.
     std::string row(const std::string& where, const std::vector<const char*>& columns) {
         Recordset rs = app.store().query("select * from DummyTracker where " + where);
