@@ -41,18 +41,9 @@ void RiskSheet::fillStockRow(int row, double& TotDelta, double& TotTheta, double
     const double S = CDbl(text("TxtMktPrice"));
     const double K = CurStrike;
     const double r = IntRate;
-    if (cell(row, 3).empty()) setCell(row, 3, "0");
-    const double Units = CDbl(cell(row, 3));
+    const double Units = rowUnits(row);
 
-    // Only the row's own side takes its volatility now; the other keeps the last row's.
-    const bool call = isCallRow(row);
-    if (call) {
-        SigmaC = CDbl(text("TxtImpVol")) / 100;
-        setCell(row, 6, Trim(text("TxtImpVol")));
-    } else {
-        SigmaP = CDbl(text("TxtImpVolP")) / 100;
-        setCell(row, 6, Trim(text("TxtImpVolP")));
-    }
+    const bool call = takeRowVolatility(row);
     const pricing::StockInputs in{S, K, r, SigmaC, SigmaP, CDbl(text("TxtDays"))};
     const auto [T, T1] = pricing::ladderClocks(in);
     const double sigma = call ? SigmaC : SigmaP;
@@ -130,17 +121,9 @@ void RiskSheet::fillIndexRow(int row) {
     CurStrike = CDbl(cell(row, 1));
     const double S = CDbl(text("TxtMktPrice"));
     const double K = CurStrike;
-    if (cell(row, 3).empty()) setCell(row, 3, "0");
-    const double Units = CDbl(cell(row, 3));
+    const double Units = rowUnits(row);
 
-    const bool call = isCallRow(row);
-    if (call) {
-        SigmaC = CDbl(text("TxtImpVol")) / 100;
-        setCell(row, 6, Trim(text("TxtImpVol")));
-    } else {
-        SigmaP = CDbl(text("TxtImpVolP")) / 100;
-        setCell(row, 6, Trim(text("TxtImpVolP")));
-    }
+    const bool call = takeRowVolatility(row);
     CurDays = CDbl(text("TxtDays"));
     CurVol = call ? SigmaC : SigmaP;
     const pricing::IndexInputs in{S, K, IntRate, CurVol, CurDays};

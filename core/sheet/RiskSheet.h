@@ -153,6 +153,11 @@ protected:
     // Units of a ladder row as its side colour shows them.
     void markUnits(int row, double units);
     bool isCallRow(int row) { return cell(row, 2) == "C"; }
+    // The row's units, a blank cell first written as "0".
+    double rowUnits(int row);
+    // The ladder walks give only the row's own side its volatility from the sheet; the other side
+    // keeps the last row's. Column 6 shows it. True on a call row.
+    bool takeRowVolatility(int row);
 
     // Field text helpers.
     void set(const std::string& field, double value);

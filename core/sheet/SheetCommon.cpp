@@ -99,4 +99,17 @@ double RiskSheet::sumOrZero(const std::string& sql, const char* column) {
     return rs.eof() ? 0 : rs[column].numberOrZero();
 }
 
+double RiskSheet::rowUnits(int row) {
+    if (cell(row, 3).empty()) setCell(row, 3, "0");
+    return CDbl(cell(row, 3));
+}
+
+bool RiskSheet::takeRowVolatility(int row) {
+    const bool call = isCallRow(row);
+    const char* field = call ? "TxtImpVol" : "TxtImpVolP";
+    (call ? SigmaC : SigmaP) = CDbl(text(field)) / 100;
+    setCell(row, 6, Trim(text(field)));
+    return call;
+}
+
 } // namespace tallimark

@@ -31,16 +31,8 @@ void RiskSheet::GetUpDnData() {
         const int last = lastLadderRow();
         for (int row = 2; row <= last; ++row) {
             CurStrike = CDbl(cell(row, 1));
-            if (cell(row, 3).empty()) setCell(row, 3, "0");
-            const double Units = CDbl(cell(row, 3));
-            const bool call = isCallRow(row);
-            if (call) {
-                SigmaC = CDbl(text("TxtImpVol")) / 100;
-                setCell(row, 6, Trim(text("TxtImpVol")));
-            } else {
-                SigmaP = CDbl(text("TxtImpVolP")) / 100;
-                setCell(row, 6, Trim(text("TxtImpVolP")));
-            }
+            const double Units = rowUnits(row);
+            const bool call = takeRowVolatility(row);
             // At most 50 percent counts on 180 here, where the ladder asks for below: settled so.
             const double K = CurStrike, S = ScenPrice, days = CDbl(text("TxtDays"));
             const bool on360 = K <= S && SigmaC <= 0.5 && SigmaP <= 0.5;
