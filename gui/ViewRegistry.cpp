@@ -23,8 +23,10 @@
 #include "frame/MainWindow.h"
 #include "pricing/CalcView.h"
 #include "pricing/FrmCalc.h"
+#include "sheet/FrmSettingStrike.h"
 #include "sheet/RiskSheet.h"
 #include "sheet/SheetView.h"
+#include "sheet/StrikeSettingView.h"
 #include "tracker/FrmOption.h"
 #include "tracker/FrmOption_New.h"
 #include "tracker/FrmUnderlying.h"
@@ -70,6 +72,7 @@ const std::map<std::string, Maker, std::less<>> kViews = {
     {FrmUser::kName, make<UserView>},
     {RiskSheet::kStockName, make<SheetView>},
     {RiskSheet::kIndexName, make<SheetView>},
+    {FrmSettingStrike::kName, make<StrikeSettingView>},
 };
 
 } // namespace

@@ -113,6 +113,9 @@ sqlite3* openFile(const std::filesystem::path& file, int flags) {
         throw StoreError(code, msg);
     }
     sqlite3_busy_timeout(db, 2000);
+    // A commit appends to the write-ahead log and flushes it: one flush, and a reader never
+    // waits for a writer.
+    sqlite3_exec(db, "PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
     sqldialect::registerFunctions(db);
     return db;
 }
@@ -150,7 +153,7 @@ public:
     }
 
 private:
-    static constexpr size_t kCapacity = 1024;
+    static constexpr size_t kCapacity = 4096;
 
     sqlite3_stmt* prepare(std::string_view sql) {
         const std::string mapped = sqldialect::toSqlite(sql);
@@ -242,13 +245,20 @@ long long Store::changes() const {
     return sqlite3_changes64(db_);
 }
 
-WriteGroup::WriteGroup(Store& store) : store_(store), active_(sqlite3_get_autocommit(store.handle()) != 0) {
-    if (active_) store_.executeNative("BEGIN");
+WriteGroup::WriteGroup(Store& store, Rows rows)
+    : store_(store), active_(sqlite3_get_autocommit(store.handle()) != 0), working_(rows == Rows::Working) {
+    if (!active_) return;
+    // Working rows are rebuilt from the committed ones on every load: their commit need not wait
+    // for the disk. The log stays whole either way.
+    if (working_) store_.executeNative("PRAGMA synchronous=NORMAL");
+    store_.executeNative("BEGIN");
 }
 
 WriteGroup::~WriteGroup() {
-    if (active_ && sqlite3_get_autocommit(store_.handle()) == 0)
+    if (!active_) return;
+    if (sqlite3_get_autocommit(store_.handle()) == 0)
         sqlite3_exec(store_.handle(), "COMMIT", nullptr, nullptr, nullptr);
+    if (working_) sqlite3_exec(store_.handle(), "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
 }
 
 } // namespace tallimark

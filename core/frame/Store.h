@@ -81,7 +81,10 @@ private:
 // as well: a failing statement leaves the earlier ones standing, as each would alone.
 class WriteGroup {
 public:
-    explicit WriteGroup(Store& store);
+    // Committed rows are on the disk when the group ends; working rows (DummyTracker) may
+    // trail behind a power cut, as the next load rebuilds them anyway.
+    enum class Rows { Committed, Working };
+    explicit WriteGroup(Store& store, Rows rows = Rows::Committed);
     ~WriteGroup();
     WriteGroup(const WriteGroup&) = delete;
     WriteGroup& operator=(const WriteGroup&) = delete;
@@ -89,6 +92,7 @@ public:
 private:
     Store& store_;
     bool active_;
+    bool working_;
 };
 
 } // namespace tallimark

@@ -3,6 +3,7 @@
 #include "frame/VbError.h"
 
 #include <cctype>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -125,9 +126,13 @@ std::string NumText(double x) {
     if (!std::isfinite(x))
         vberr::raise(vberr::Overflow); // a fault of the formula, never a figure on the screen
     if (x == 0.0) return "0";
+    // Written as "%.15G" would write it (trailing zeros dropped, exponent as E+15, E-05), without
+    // the cost of printf: the ladder writes thousands of these on every refresh.
     char buf[40];
-    std::snprintf(buf, sizeof buf, "%.15G", x);
-    return buf; // %G drops trailing zeros and writes the exponent as the desk reads it: E+15, E-05
+    const auto end = std::to_chars(buf, buf + sizeof buf, x, std::chars_format::general, 15).ptr;
+    std::string s(buf, end);
+    if (const size_t e = s.find('e'); e != std::string::npos) s[e] = 'E';
+    return s;
 }
 
 std::string NumText(int64_t x) {

@@ -160,7 +160,7 @@ void RiskSheet::setDaysToExpiry(const VbDate& today) {
 void RiskSheet::copyWorkingRows() {
     Store& store = app().store();
     const std::string key = sheetLedgerKey();
-    WriteGroup group(store);
+    WriteGroup group(store, WriteGroup::Rows::Working);
     // The index sheet holds the working ledger as one sheet's alone: it clears every sheet's rows.
     store.execute(isIndex() ? "delete * from dummytracker" : "delete from dummytracker where " + key);
     store.execute("insert into dummytracker select * from tracker where " + key);

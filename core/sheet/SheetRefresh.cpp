@@ -11,7 +11,7 @@ void RiskSheet::RefreshData(int key) {
     trapped("RefreshData", [this] {
         // One write group for the store work of the whole cycle: a failing step still leaves
         // what the earlier steps wrote, as each statement would alone.
-        WriteGroup group(app().store());
+        WriteGroup group(app().store(), WriteGroup::Rows::Working);
         // The valuation date follows the days typed against the sheet's expiry.
         const VbDate today(CDate(text("TxtExpDt")).serial() - Val(Trim(text("TxtDays"))));
         setText("TxtCurDt", DateText(today));

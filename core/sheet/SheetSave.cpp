@@ -107,6 +107,7 @@ void RiskSheet::SaveData() {
         // Noted first: a save that fails part way no longer asks at close.
         SavedDelNeutral = Trim(text("txtdelneutral"));
         SavedBalance = Trim(text("TxtBalance"));
+        WriteGroup group(app().store());
         AddMaster();
         AddDetail();
         ErrProcAddTracker();

@@ -74,7 +74,7 @@ void RiskSheet::UpdateTracker() {
         Store& store = app().store();
         const Session& s = app().session();
         const std::string key = "[symbol] = " + q(Trim(s.g_strSymbol)) + " and [indesc] = " + q(s.g_strDesc);
-        WriteGroup group(store);
+        WriteGroup group(store, WriteGroup::Rows::Working);
         // A flat series is left out: its rows keep the values of its last open moment, from
         // which its realised result is worked out.
         const int last = lastLadderRow();

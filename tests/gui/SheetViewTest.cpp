@@ -106,6 +106,37 @@ private slots:
         QCOMPARE(desk->app.store().query("select count(*) from PortfolioDet").at(0).number(), 10.0);
         QVERIFY(desk->boxes.empty());
     }
+
+    void f7AsksForStrikesBesideTheirCountsAndWidensTheLadder() {
+        QWidget* view = open(test::kSavedSheets[0]);
+        QVERIFY(view);
+        auto* va1 = child<QTableWidget>(view, "va1");
+        const int rows = va1->rowCount();
+        QString title, aboveCaption;
+        bool captionBesideField = false;
+        QTimer::singleShot(0, [&] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            if (!dialog) return;
+            title = dialog->windowTitle();
+            auto* label = child<QLabel>(dialog, "Label1");
+            auto* above = child(dialog, "TxtAbove");
+            aboveCaption = label->text();
+            captionBesideField =
+                std::abs(label->geometry().center().y() - above->geometry().center().y()) < 4;
+            if (qEnvironmentVariableIsSet("TALLIMARK_VIEW_SHOT"))
+                dialog->grab().save(qEnvironmentVariable("TALLIMARK_VIEW_SHOT") + "/strike-setting.png");
+            above->selectAll();
+            QTest::keyClicks(above, "2");
+            child<QPushButton>(dialog, "Command1")->click();
+        });
+        va1->setFocus();
+        QTest::keyClick(va1, Qt::Key_F7);
+        QCOMPARE(title, "Strike Setting");
+        QCOMPARE(aboveCaption, "2 Number Of Strike Above  ");
+        QVERIFY(captionBesideField);
+        QCOMPARE(va1->rowCount(), rows + 4);
+        QVERIFY(desk->boxes.empty());
+    }
 };
 
 QTEST_MAIN(SheetViewTest)

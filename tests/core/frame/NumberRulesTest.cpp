@@ -2,8 +2,12 @@
 #include "frame/VbNumber.h"
 
 #include <cmath>
+#include <cstdio>
+#include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
+#include <random>
+#include <string>
 
 using namespace tallimark;
 
@@ -88,6 +92,37 @@ TEST(NumberRules, DefaultTextHasFifteenDigitsAndExponentOnlyAtTheEnds) {
     EXPECT_EQ(Str(5), " 5");
     EXPECT_EQ(Str(0), " 0");
     EXPECT_EQ(Str(-5), "-5");
+}
+
+// The fast writer must agree with printf's "%.15G" on every double, the halfway cases of the
+// fifteenth digit and the edges of the exponent form included.
+TEST(NumberRules, DefaultTextIsPrintfsGeneralForm) {
+    std::mt19937_64 rng(2026);
+    std::uniform_int_distribution<int> exponent(-330, 330);
+    auto printfText = [](double x) {
+        char buf[40];
+        std::snprintf(buf, sizeof buf, "%.15G", x);
+        return std::string(buf);
+    };
+    auto check = [&](double x) {
+        if (x == 0.0 || !std::isfinite(x)) return;
+        ASSERT_EQ(NumText(x), printfText(x)) << std::hexfloat << x;
+    };
+    for (int i = 0; i < 200000; ++i) {
+        uint64_t bits = rng();
+        double any;
+        std::memcpy(&any, &bits, sizeof any);
+        check(any);
+        // Figures of the desk's size, and decimals cut at fifteen and sixteen digits.
+        const double scaled = std::ldexp(static_cast<double>(rng() >> 11), exponent(rng) / 10 - 53);
+        check(scaled);
+        check(std::nextafter(scaled, 0.0));
+        check(static_cast<double>(static_cast<int64_t>(rng() % 2000000000000000)) / 100.0);
+        check(1e-5 * (1 + static_cast<int>(rng() % 1000)) + 0.5e-20);
+    }
+    for (double edge :
+         {1e15, 999999999999999.5, 1e-4, 9.99999999999999e-5, 0.5, 5e-324, 1.7976931348623157e308})
+        check(edge);
 }
 
 TEST(NumberRules, FormulaFaultsAreRunTimeErrors) {
