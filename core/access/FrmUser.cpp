@@ -45,6 +45,10 @@ void FrmUser::onButton(int index) {
 }
 
 void FrmUser::clickButton(int index) {
+    if (index == Save && !SaveValidate()) return;
+    if (sharedButton(index, {[this] { SetStartupUI(); }, [this] { return AddRecords(); },
+                             [this] { return ModifyRecords(); }, [this] { return DeleteRecords(); }}))
+        return;
     switch (index) {
     case New: {
         const std::optional<std::string> next = GetMaxID();
@@ -63,31 +67,11 @@ void FrmUser::clickButton(int index) {
         break;
     }
     case Modify:
-        SetLocked(*this, false);
-        setEnabled("TxtUserCode", false);
-        setFocus("TxtUserName");
-        setMask("0001101");
-        mode = Modifying;
-        break;
-    case Delete:
-        if (confirmDelete() && !DeleteRecords()) failedBox(Failure::Deleting);
-        SetStartupUI();
-        break;
-    case Undo:
-        SetStartupUI();
-        break;
-    case Save:
-        if (!SaveValidate()) return;
-        if (mode == Adding && !AddRecords()) failedBox(Failure::Adding);
-        if (mode == Modifying && !ModifyRecords()) failedBox(Failure::Updating);
-        SetStartupUI();
+        beginModify("TxtUserCode", "TxtUserName");
         break;
     case Find:
         FindRecords();
         setMask("1110011");
-        break;
-    case Exit:
-        hide();
         break;
     }
 }

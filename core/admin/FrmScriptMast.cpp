@@ -47,6 +47,9 @@ void FrmScriptMast::Reset() {
 }
 
 void FrmScriptMast::onButton(int index) {
+    if (sharedButton(index, {[this] { Reset(); }, [this] { return addRecord(); },
+                             [this] { return updateRecord(); }, [this] { return deleteRecord(); }}))
+        return;
     switch (index) {
     case New:
         Reset();
@@ -56,32 +59,12 @@ void FrmScriptMast::onButton(int index) {
         mode = Adding;
         break;
     case Modify:
-        SetLocked(*this, false);
-        setEnabled("TxtSptCode", false);
-        setFocus("TxtSptName");
-        setMask("0001101");
-        mode = Modifying;
-        break;
-    case Delete:
-        if (confirmDelete() && !deleteRecord()) failedBox(Failure::Deleting);
-        Reset();
-        break;
-    case Undo:
-        Reset();
-        break;
-    case Save:
-        if (mode == Adding && !addRecord()) failedBox(Failure::Adding);
-        if (mode == Modifying && !updateRecord()) failedBox(Failure::Updating);
-        mode = Idle;
-        Reset();
+        beginModify("TxtSptCode", "TxtSptName");
         break;
     case Find:
         FindRecords();
         SetLocked(*this, true);
         setMask("1110011");
-        break;
-    case Exit:
-        hide();
         break;
     }
 }

@@ -38,6 +38,9 @@ void FrmCharges::Reset() {
 }
 
 void FrmCharges::onButton(int index) {
+    if (sharedButton(index, {[this] { Reset(); }, [this] { return insertRates(); },
+                             [this] { return updateRates(); }, [this] { return deleteRates(); }}))
+        return;
     switch (index) {
     case New:
         setMask("0001101");
@@ -46,23 +49,7 @@ void FrmCharges::onButton(int index) {
         mode = Adding;
         break;
     case Modify:
-        SetLocked(*this, false);
-        setFocus("TxtTurnOverCh");
-        setMask("0001101");
-        mode = Modifying;
-        break;
-    case Delete:
-        if (confirmDelete() && !deleteRates()) failedBox(Failure::Deleting);
-        Reset();
-        break;
-    case Undo:
-        Reset();
-        break;
-    case Save:
-        if (mode == Adding && !insertRates()) failedBox(Failure::Adding);
-        if (mode == Modifying && !updateRates()) failedBox(Failure::Updating);
-        mode = Idle;
-        Reset();
+        beginModify(nullptr, "TxtTurnOverCh");
         break;
     case Find:
         FindRecords();
@@ -70,9 +57,6 @@ void FrmCharges::onButton(int index) {
         // offered, so Delete never shows on this screen.
         SetLocked(*this, true);
         setMask("0100011");
-        break;
-    case Exit:
-        hide();
         break;
     }
 }

@@ -25,6 +25,37 @@ void RecordScreen::addButtons() {
         addControl(ControlKind::Button, buttonArray_ + "(" + std::to_string(i) + ")", captions[i]);
 }
 
+bool RecordScreen::sharedButton(int index, const RecordSteps& steps) {
+    switch (index) {
+    case Delete:
+        if (confirmDelete() && !steps.remove()) failedBox(Failure::Deleting);
+        steps.reset();
+        return true;
+    case Undo:
+        steps.reset();
+        return true;
+    case Save:
+        if (mode == Adding && !steps.add()) failedBox(Failure::Adding);
+        if (mode == Modifying && !steps.update()) failedBox(Failure::Updating);
+        mode = Idle;
+        steps.reset();
+        return true;
+    case Exit:
+        hide();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void RecordScreen::beginModify(const char* key, const char* first) {
+    SetLocked(*this, false);
+    if (key) setEnabled(key, false);
+    setFocus(first);
+    setMask("0001101");
+    mode = Modifying;
+}
+
 void RecordScreen::setMask(const std::string& mask) {
     SetButtonMask(*this, buttonArray_, mask);
 }

@@ -26,6 +26,17 @@ protected:
     // Called with the button's index; errors it does not trap reach the click's failure box.
     virtual void onButton(int index) = 0;
 
+    // A master screen's own store work, and its way back to browsing.
+    struct RecordSteps {
+        std::function<void()> reset;
+        std::function<bool()> add, update, remove;
+    };
+    // Delete, Undo, Save and Exit, which run alike on every master screen; false for New,
+    // Modify and Find, which each screen handles itself.
+    bool sharedButton(int index, const RecordSteps& steps);
+    // Modify: the fields open but the key (if the screen has one), focus on the first to change.
+    void beginModify(const char* key, const char* first);
+
     void setMask(const std::string& mask);
     // "Do you wish to delete this record?": true on Yes.
     bool confirmDelete();
