@@ -1,6 +1,8 @@
 #pragma once
 // The batch executable run as a desk would run it: a ready store in a temporary folder, scripts
 // of user actions, and the lines the run prints.
+#include "frame/Store.h"
+
 #include <array>
 #include <cstdio>
 #include <filesystem>
@@ -68,6 +70,8 @@ protected:
     }
 
     std::filesystem::path storeFile() const { return dir_ / "shares.db"; }
+    // The store as a run left it, open between runs.
+    std::unique_ptr<Store> store() const { return Store::open(storeFile()); }
 
     std::filesystem::path dir_;
 };

@@ -5,8 +5,6 @@
 #include "BatchFixture.h"
 #include "core/sheet/SheetScenarios.h"
 
-#include "frame/Store.h"
-
 using tallimark::test::contains;
 using tallimark::test::Outcome;
 using tallimark::test::SavedSheet;
@@ -30,10 +28,7 @@ std::vector<std::string> ladderTexts(const std::string& dump) {
 class SheetBatch : public tallimark::test::BatchFixture {
 protected:
     void openAndCheck(const SavedSheet& sheet) {
-        {
-            auto store = tallimark::Store::open(storeFile());
-            sheet.save(*store);
-        }
+        sheet.save(*store());
         const std::string screen = sheet.stock() ? "FrmPort5" : "FrmPortfolioIndex";
         const Outcome r = script("login ADMIN tallimark\n"
                                  "menu MDIForm1.munopen\n"
@@ -78,29 +73,4 @@ TEST_F(SheetBatch, AnIndexSheetWithTimeToRun) {
 
 TEST_F(SheetBatch, AnIndexSheetOnItsExpiryDay) {
     openAndCheck(tallimark::test::kSavedSheets[3]);
-}
-
-TEST_F(SheetBatch, TypedDaysRevalueTheSheetAndAWordIsRefused) {
-    {
-        auto store = tallimark::Store::open(storeFile());
-        tallimark::test::kSavedSheets[0].save(*store);
-    }
-    const Outcome r = script("login ADMIN tallimark\n"
-                             "menu MDIForm1.munopen\n"
-                             "gridclick FrmNewMainScreen.ListView1 1 1\n"
-                             "click FrmNewMainScreen.Cmd(1)\n"
-                             "set FrmPort5.TxtDays 10\n"
-                             "focus FrmPort5.TxtMktPrice\n"
-                             "dump FrmPort5\n"
-                             "set FrmPort5.TxtMktPrice ten\n"
-                             "focus FrmPort5.TxtDays\n"
-                             "dump FrmPort5\n");
-    ASSERT_EQ(r.exitCode, 0) << r.all();
-    ASSERT_EQ(r.lines.size(), 3u) << r.all();
-    EXPECT_TRUE(contains(r.lines[0], R"("TxtCurDt":{"text":"30-11-2026"})")) << "ten days before the expiry";
-    EXPECT_TRUE(contains(r.lines[0], R"("DTPicker1":{"text":"30-Nov-26"})"));
-    EXPECT_EQ(r.lines[1], R"({"msgbox":{"title":"Invalid Entry","text":"Only Numeric Values allowed here",)"
-                          R"("icon":"critical","buttons":"OK","answer":"OK"}})");
-    EXPECT_TRUE(contains(r.lines[2], R"("TxtMktPrice":{"text":""})"));
-    EXPECT_TRUE(contains(r.lines[2], R"("TxtCurDt":{"text":"30-11-2026"})"));
 }

@@ -5,8 +5,6 @@
 #include "BatchFixture.h"
 #include "core/sheet/SheetScenarios.h"
 
-#include "frame/Store.h"
-
 using tallimark::test::contains;
 using tallimark::test::Outcome;
 
@@ -26,10 +24,7 @@ const char* const kResults[] = {"TxtBalance", "txtdelneutral", "TxtPremium",
 
 class SheetRoad : public tallimark::test::BatchFixture {
 protected:
-    double number(const std::string& sql) {
-        auto store = tallimark::Store::open(storeFile());
-        return store->query(sql).at(0).numberOrZero();
-    }
+    double number(const std::string& sql) { return store()->query(sql).at(0).numberOrZero(); }
     static std::string openSheet() {
         return "menu MDIForm1.munopen\n"
                "gridclick FrmNewMainScreen.ListView1 1 1\n"
@@ -44,10 +39,7 @@ protected:
 
     // One trade, Yes to the close question, the sheet reopened: the figures and the row as left.
     void tradeSaveAndReopen(const tallimark::test::SavedSheet& sheet, int row, const char* unitsAfter) {
-        {
-            auto store = tallimark::Store::open(storeFile());
-            sheet.save(*store);
-        }
+        sheet.save(*store());
         const std::string screen = sheet.stock() ? "FrmPort5" : "FrmPortfolioIndex";
         const Outcome r =
             script("login ADMIN tallimark\n" + openSheet() + optionTrade(screen, row, "5", "22.5") + "dump " +
@@ -87,10 +79,7 @@ TEST_F(SheetRoad, AnIndexTradeIsSavedAtTheCloseAndReopens) {
 }
 
 TEST_F(SheetRoad, CancelAtTheCloseKeepsTheSheetAndWritesNothing) {
-    {
-        auto store = tallimark::Store::open(storeFile());
-        tallimark::test::kSavedSheets[0].save(*store);
-    }
+    tallimark::test::kSavedSheets[0].save(*store());
     const Outcome r =
         script("login ADMIN tallimark\n" + openSheet() + optionTrade("FrmPort5", 4, "5", "22.5") +
                "answer Cancel\n"
@@ -105,12 +94,9 @@ TEST_F(SheetRoad, CancelAtTheCloseKeepsTheSheetAndWritesNothing) {
 }
 
 TEST_F(SheetRoad, NoDropsASheetThatWasNeverSaved) {
-    {
-        auto store = tallimark::Store::open(storeFile());
-        store->execute("insert into Trans (InSymbol, InDesc, InType, MidStrike, AStrike, BStrike, UComm, "
-                       "DIntRate, Transdt) values ('TCSK2026', 'FRESH', 'S', 1000, 1, 1, 20, 6, "
-                       "cdate('20-Nov-2026'))");
-    }
+    store()->execute("insert into Trans (InSymbol, InDesc, InType, MidStrike, AStrike, BStrike, UComm, "
+                     "DIntRate, Transdt) values ('TCSK2026', 'FRESH', 'S', 1000, 1, 1, 20, 6, "
+                     "cdate('20-Nov-2026'))");
     const Outcome r = script("login ADMIN tallimark\n" + openSheet() +
                              "set FrmPort5.TxtExpDt 10-12-2026\n"
                              "set FrmPort5.TxtDays 17\n"

@@ -31,10 +31,8 @@ template <class Screen> struct MastersDesk : Desk {
     // The next look-up of FrmSeek picks the row (Enter), or Esc when row is 0.
     void seekPicks(int row) {
         ui.setModalRunner([row](Form& seek) {
-            Event e{EventType::KeyDown};
-            e.keyCode = row ? keys::Enter : keys::Escape;
             if (row) seek.grid("MSHFlexGrid1").activeRow = row;
-            seek.fire("MSHFlexGrid1", e);
+            pressKey(seek, "MSHFlexGrid1", row ? keys::Enter : keys::Escape);
         });
     }
     std::string lastBox() const { return ui.boxes().empty() ? std::string() : ui.boxes().back().box.text; }

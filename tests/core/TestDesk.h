@@ -1,12 +1,14 @@
 #pragma once
 // A desk for tests: a ready store in a temporary folder, a scripted UI and a fixed day.
 #include "frame/App.h"
+#include "frame/Form.h"
 #include "frame/Schema.h"
 #include "frame/ScriptedUi.h"
 
 #include <filesystem>
 #include <random>
 #include <string>
+#include <vector>
 
 namespace tallimark::test {
 
@@ -28,6 +30,20 @@ private:
     std::filesystem::path path_;
 };
 
+// A key pressed in a control (KeyDown with its code and shift bits); the event as the handlers left it.
+inline Event pressKey(Form& form, const std::string& control, int keyCode, int shift = 0) {
+    Event e{EventType::KeyDown};
+    e.keyCode = keyCode;
+    e.shift = shift;
+    return form.fire(control, e);
+}
+// A character typed into a control (KeyPress).
+inline Event typeChar(Form& form, const std::string& control, char c) {
+    Event e{EventType::KeyPress};
+    e.keyAscii = c;
+    return form.fire(control, e);
+}
+
 struct Desk {
     explicit Desk(bool withStore = true) {
         clock.setToday(VbDate::fromYmd(2026, 11, 23));
@@ -41,6 +57,13 @@ struct Desk {
         std::vector<std::string> t;
         for (const auto& b : ui.boxes())
             t.push_back(b.box.text);
+        return t;
+    }
+    // The boxes shown so far, each as "title|text|icon".
+    std::vector<std::string> boxLines() const {
+        std::vector<std::string> t;
+        for (const auto& b : ui.boxes())
+            t.push_back(b.box.title + "|" + b.box.text + "|" + iconName(b.box.icon));
         return t;
     }
 

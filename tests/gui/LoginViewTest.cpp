@@ -4,7 +4,6 @@
 
 #include "access/FrmPwd.h"
 
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QtTest>
@@ -46,15 +45,11 @@ private slots:
     }
     void cleanup() { desk.reset(); }
 
-    void theDialogShowsTheLoginEntry() {
-        QString title, heading, ok, cancel, change;
+    void theDialogHidesThePasswordAndKeepsItsKeys() {
+        QString title;
         bool newFieldsHidden = false, passwordHidden = false, upAfterKeys = false;
         test::whileModal(*login, [&](QWidget& dialog) {
             title = dialog.windowTitle();
-            heading = dialog.findChild<QLabel*>("lbl_heading")->text();
-            ok = button(dialog, "cmdokcan(0)")->text();
-            cancel = button(dialog, "cmdokcan(1)")->text();
-            change = button(dialog, "cmdchgpass")->text();
             newFieldsHidden = field(dialog, "txt_new_user_name")->isHidden() &&
                               field(dialog, "txt_new_password")->isHidden();
             passwordHidden = field(dialog, "txt_password")->echoMode() == QLineEdit::Password;
@@ -64,10 +59,6 @@ private slots:
             upAfterKeys = dialog.isVisible();
         });
         QCOMPARE(title, "Login");
-        QCOMPARE(heading, "LOGIN ENTRY");
-        QCOMPARE(ok, "&Ok");
-        QCOMPARE(cancel, "&Cancel");
-        QCOMPARE(change, "C&hange password");
         QVERIFY(newFieldsHidden);
         QVERIFY(passwordHidden);
         QVERIFY(upAfterKeys);

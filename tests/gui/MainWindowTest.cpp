@@ -1,5 +1,5 @@
 // The main frame: the start-up that leads to it, its menus, and the screens they open in its
-// document area.
+// document area; there the calculator as the desk uses it, inputs typed and figures read.
 #include "GuiDesk.h"
 
 #include "frame/EmptyScreen.h"
@@ -27,6 +27,13 @@ class MainWindowTest : public QObject {
 
     QAction* menu(const char* name) { return window->findChild<QAction*>(QString::fromLatin1(name)); }
     QList<QMdiSubWindow*> subwindows() { return window->mdiArea().subWindowList(); }
+    // The calculator's field in the document area.
+    QLineEdit* calc(const char* name) {
+        return subwindows().first()->findChild<QLineEdit*>(QString::fromLatin1(name));
+    }
+    void calculate() {
+        QTest::mouseClick(subwindows().first()->findChild<QPushButton*>("Command1"), Qt::LeftButton);
+    }
 
 private slots:
     void init() {
@@ -58,7 +65,7 @@ private slots:
         QCOMPARE(menu("munopen")->text(), "&Open Sheet");
     }
 
-    void theCalculatorOpensOnceInTheDocumentArea() {
+    void theCalculatorOpensOnceInTheDocumentAreaAndClosingUnloadsIt() {
         menu("mnucalc")->trigger();
         menu("mnucalc")->trigger();
         QCOMPARE(subwindows().size(), 1);
@@ -66,6 +73,38 @@ private slots:
         QCOMPARE(sub->windowTitle(), "Calculator");
         QVERIFY(sub->findChild<QLineEdit*>("Text1"));
         QVERIFY(sub->isVisible());
+        sub->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(subwindows().isEmpty());
+        QVERIFY(!desk->app.screens().find(FrmCalc::kName));
+    }
+
+    void theCalculatorShowsItsInputsTogetherAndItsFiguresReadOnly() {
+        menu("mnucalc")->trigger();
+        QCOMPARE(subwindows().first()->findChild<QLabel*>("Label_Text3")->text(), "Days");
+        QCOMPARE(calc("Text3")->text(), "90");
+        for (const char* input : {"Text2", "Text3", "Text4", "Text5"})
+            QCOMPARE(calc(input)->parentWidget(), calc("Text1")->parentWidget());
+        for (int i = 6; i <= 15; ++i)
+            QVERIFY(calc(("Text" + std::to_string(i)).c_str())->isReadOnly());
+    }
+
+    void calculateFillsTheFiguresAndZeroDaysShowsTheRuntimeError() {
+        menu("mnucalc")->trigger();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        calculate();
+        QCOMPARE(calc("Text6")->text(), "12.5941");
+        QCOMPARE(calc("Text9")->text(), "-0.0909");
+        QVERIFY(desk->boxes.empty());
+        // Entering a field selects its text, so the typing replaces the days.
+        calc("Text3")->setFocus(Qt::OtherFocusReason);
+        QTest::keyClicks(calc("Text3"), "0");
+        QCOMPARE(calc("Text3")->text(), "0");
+        calculate();
+        QCOMPARE(desk->boxes.size(), size_t(1));
+        QVERIFY(QString::fromStdString(desk->boxes[0].text).startsWith("Run-time error '11'"));
+        QCOMPARE(desk->boxes[0].icon, MsgIcon::Critical);
+        QCOMPARE(calc("Text6")->text(), "12.5941");
     }
 
     void aScreenWithoutItsOwnViewShowsItsCaption() {
@@ -75,15 +114,6 @@ private slots:
         QCOMPARE(subwindows().first()->windowTitle(), "Blank Screen");
         QCOMPARE(subwindows().first()->findChild<QLabel*>()->text(), "Blank Screen");
         blank.hide();
-    }
-
-    void closingASubwindowUnloadsItsScreen() {
-        menu("mnucalc")->trigger();
-        QVERIFY(desk->app.screens().find(FrmCalc::kName));
-        subwindows().first()->close();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(subwindows().isEmpty());
-        QVERIFY(!desk->app.screens().find(FrmCalc::kName));
     }
 
     void startUpLogsInAndShowsTheFrame() {
@@ -98,16 +128,6 @@ private slots:
         QCOMPARE(fresh.app.session().g_UserName, "ADMIN");
         QVERIFY(fresh.ui.mainWindow());
         QVERIFY(fresh.ui.mainWindow()->isVisible());
-    }
-
-    void aMissingStoreEndsTheStartUpWithItsBox() {
-        test::GuiDesk bare;
-        bare.app.closeStore();
-        QFile::remove(QString::fromStdString(bare.app.storeFile().string()));
-        QVERIFY(!StartUp(bare.app));
-        QCOMPARE(bare.boxes.size(), size_t(1));
-        QVERIFY(QString::fromStdString(bare.boxes[0].text).startsWith("Error in Main Procedure: "));
-        QVERIFY(!bare.ui.mainWindow());
     }
 };
 

@@ -46,24 +46,16 @@ private slots:
     void init() { desk = std::make_unique<test::GuiDesk>(); }
     void cleanup() { desk.reset(); }
 
-    void theScriptMasterShowsItsCaptionsLockedAndIdle() {
+    void aScriptTypedInIsSavedWithItsCodeInCapitals() {
         open<FrmScriptMast>();
         QVERIFY(view);
         QCOMPARE(view->windowTitle(), "Script Master ...Tallimark");
         QCOMPARE(label("LblSptCode"), "Script &Code");
-        QCOMPARE(label("LblCrores"), "in Crores");
-        QCOMPARE(label("LblContract"), "Lot Size ");
-        QCOMPARE(view->findChild<QGroupBox*>("FraGamma")->title(), "Gamma Control");
         QCOMPARE(field("TxtFWeek")->parentWidget(), view->findChild<QGroupBox*>("FraGamma"));
-        const char* const captions[] = {"&New", "&Modify", "&Delete", "&Undo", "&Save", "&Find", "E&xit"};
-        for (int i = 0; i < 7; ++i)
-            QCOMPARE(button("Cmd(" + std::to_string(i) + ")")->text(), captions[i]);
+        QCOMPARE(button("Cmd(0)")->text(), "&New");
         QCOMPARE(mask(), "1000011");
         QVERIFY(field("TxtSptCode")->isReadOnly());
-    }
 
-    void aScriptTypedInIsSavedWithItsCodeInCapitals() {
-        open<FrmScriptMast>();
         QVERIFY(QTest::qWaitForWindowActive(view->window()));
         click("Cmd(0)");
         QCOMPARE(mask(), "0001101");
@@ -103,12 +95,10 @@ private slots:
         QCOMPARE(mask(), "1110011");
     }
 
-    void theChargeMasterOffersNewOnlyOnAnEmptyTable() {
+    void theChargeMasterShowsItsRatesInTheirGroup() {
         open<FrmCharges>();
         QCOMPARE(view->windowTitle(), "Charges.....Tallimark");
-        QCOMPARE(view->findChild<QGroupBox*>("FraContract")->title(), "Contract  Charges");
-        QCOMPARE(label("LblConch"), "On Option");
-        QCOMPARE(label("LblStDuty"), "Stamp Duty Charges (Per Lakh)");
+        QCOMPARE(field("TxtConch")->parentWidget(), view->findChild<QGroupBox*>("FraContract"));
         QCOMPARE(mask("cmd"), "1000011");
     }
 
@@ -124,11 +114,9 @@ private slots:
 
     void theMonthGridHasItsHeadingsAndNoRows() {
         open<Frmnth>();
-        QCOMPARE(view->windowTitle(), "Month Master Detail");
         auto* va1 = view->findChild<QTableWidget*>("va1");
         QCOMPARE(va1->rowCount(), 0);
         QCOMPARE(va1->columnCount(), 3);
-        QCOMPARE(va1->horizontalHeaderItem(0)->text(), "Month");
         QCOMPARE(va1->horizontalHeaderItem(2)->text(), "Future");
     }
 };

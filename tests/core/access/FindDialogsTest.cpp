@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 using namespace tallimark;
+using test::pressKey;
 
 namespace {
 
@@ -29,13 +30,6 @@ struct LookupDesk : test::Desk {
         return search_call(app, statement);
     }
 };
-
-void key(Form& f, const std::string& control, int code, int shift = 0) {
-    Event e{EventType::KeyDown};
-    e.keyCode = code;
-    e.shift = shift;
-    f.fire(control, e);
-}
 
 } // namespace
 
@@ -60,7 +54,7 @@ TEST(FrmSeek, ThePickedRowGivesItsFirstColumnAndTheDialogGoes) {
             if (c.doubleClick)
                 s.fire("MSHFlexGrid1", EventType::DblClick);
             else
-                key(s, "MSHFlexGrid1", keys::Enter);
+                pressKey(s, "MSHFlexGrid1", keys::Enter);
         });
         EXPECT_EQ(got, c.expected) << c.name;
         EXPECT_EQ(captionShown, "Script List") << c.name;
@@ -70,17 +64,17 @@ TEST(FrmSeek, ThePickedRowGivesItsFirstColumnAndTheDialogGoes) {
 
 TEST(FrmSeek, EscOrAnEmptySetGiveNothing) {
     LookupDesk d;
-    EXPECT_EQ(d.seek(kScripts, [](FrmSeek& s) { key(s, "MSHFlexGrid1", keys::Escape); }), "");
+    EXPECT_EQ(d.seek(kScripts, [](FrmSeek& s) { pressKey(s, "MSHFlexGrid1", keys::Escape); }), "");
     EXPECT_EQ(d.app.screens().find(FrmSeek::kName), nullptr);
 
     // A pick, then Esc on the next look-up: the earlier pick does not come back.
-    EXPECT_EQ(d.seek(kScripts, [](FrmSeek& s) { key(s, "MSHFlexGrid1", keys::Enter); }), "ACC");
-    EXPECT_EQ(d.seek(kScripts, [](FrmSeek& s) { key(s, "MSHFlexGrid1", keys::Escape); }), "");
+    EXPECT_EQ(d.seek(kScripts, [](FrmSeek& s) { pressKey(s, "MSHFlexGrid1", keys::Enter); }), "ACC");
+    EXPECT_EQ(d.seek(kScripts, [](FrmSeek& s) { pressKey(s, "MSHFlexGrid1", keys::Escape); }), "");
 
     bool hidden = false;
     EXPECT_EQ(d.seek("select * from Charges",
                      [&](FrmSeek& s) {
-                         key(s, "MSHFlexGrid1", keys::Enter);
+                         pressKey(s, "MSHFlexGrid1", keys::Enter);
                          hidden = !s.visible();
                      }),
               "");
@@ -147,8 +141,9 @@ TEST(Search, NextAndPreviousMatchesAndTheMovingKeys) {
     LookupDesk d;
     std::vector<int> rows;
     d.lookup(kScripts, [&](search& s) {
+        // Every key here is a command the dialog swallows, but for a capital N, which is typing.
         const auto press = [&](int code, int shift = 0) {
-            key(s, "txt_search", code, shift);
+            EXPECT_EQ(pressKey(s, "txt_search", code, shift).keyCode, shift ? code : 0) << code;
             rows.push_back(s.currentRow());
         };
         s.setText("txt_search", "a");
@@ -169,22 +164,6 @@ TEST(Search, NextAndPreviousMatchesAndTheMovingKeys) {
     EXPECT_EQ(rows, (std::vector<int>{1, 2, 2, 1, 1, 1, 2, 3, 2, 5, 1, 1}));
 }
 
-TEST(Search, CommandKeysAreSwallowedAndTypingIsNot) {
-    LookupDesk d;
-    d.lookup(kScripts, [&](search& s) {
-        for (int code : {keys::Down, keys::Up, keys::PageDown, keys::PageUp, int('N'), int('P')}) {
-            Event e{EventType::KeyDown};
-            e.keyCode = code;
-            EXPECT_EQ(s.fire("txt_search", e).keyCode, 0) << code;
-        }
-        Event capital{EventType::KeyDown};
-        capital.keyCode = 'N';
-        capital.shift = keys::ShiftMask;
-        EXPECT_EQ(s.fire("txt_search", capital).keyCode, 'N');
-        key(s, "txt_search", keys::Escape);
-    });
-}
-
 TEST(Search, OkGivesEveryColumnOfTheCurrentRowEscGivesNone) {
     LookupDesk d;
     EXPECT_EQ(d.lookup(kScripts,
@@ -198,11 +177,11 @@ TEST(Search, OkGivesEveryColumnOfTheCurrentRowEscGivesNone) {
     EXPECT_EQ(d.lookup(kScripts,
                        [](search& s) {
                            s.setText("txt_search", "bp");
-                           key(s, "txt_search", keys::Enter);
+                           pressKey(s, "txt_search", keys::Enter);
                        }),
               (std::vector<std::string>{"BPCL", ""}));
-    EXPECT_TRUE(d.lookup(kScripts, [](search& s) { key(s, "txt_search", keys::Escape); }).empty());
-    EXPECT_TRUE(d.lookup(kScripts, [](search& s) { key(s, "DB1", keys::Escape); }).empty());
+    EXPECT_TRUE(d.lookup(kScripts, [](search& s) { pressKey(s, "txt_search", keys::Escape); }).empty());
+    EXPECT_TRUE(d.lookup(kScripts, [](search& s) { pressKey(s, "DB1", keys::Escape); }).empty());
     EXPECT_TRUE(d.ui.boxes().empty());
 }
 
@@ -233,9 +212,9 @@ TEST(Search, AClickedRowShowsItsValueAndStaysCurrent) {
         s.fire("DB1", click);
         EXPECT_EQ(s.text("txt_search"), "BPCL");
         EXPECT_EQ(s.currentRow(), 4);
-        key(s, "txt_search", 'P'); // the shown text is what the next search looks for: none before
+        pressKey(s, "txt_search", 'P'); // the shown text is what the next search looks for: none before
         EXPECT_EQ(s.currentRow(), 4);
-        key(s, "txt_search", keys::Escape);
+        pressKey(s, "txt_search", keys::Escape);
     });
 }
 
@@ -247,8 +226,8 @@ TEST(Search, NumbersAreSearchedAsTheyRead) {
             s.setText("Combo1", "CODE");
             s.fire("Combo1", EventType::Click);
             s.setText("txt_search", "1");
-            key(s, "txt_search", 'N');
-            key(s, "txt_search", keys::Enter);
+            pressKey(s, "txt_search", 'N');
+            pressKey(s, "txt_search", keys::Enter);
         });
     EXPECT_EQ(got, (std::vector<std::string>{"RAVI", "12"}));
 }
@@ -257,10 +236,7 @@ TEST(Search, AnEmptySetSaysSoAndGivesNothing) {
     LookupDesk d;
     bool ran = false;
     EXPECT_TRUE(d.lookup("select * from Charges", [&](search&) { ran = true; }).empty());
-    ASSERT_EQ(d.ui.boxes().size(), 1u);
-    EXPECT_EQ(d.ui.boxes()[0].box.title, "No Records");
-    EXPECT_EQ(d.ui.boxes()[0].box.text, "No records found");
-    EXPECT_EQ(d.ui.boxes()[0].box.icon, MsgIcon::Information);
+    EXPECT_EQ(d.boxLines(), std::vector<std::string>{"No Records|No records found|information"});
     EXPECT_EQ(d.app.screens().find(search::kName), nullptr);
     EXPECT_TRUE(ran) << "the modal run still starts, on a dialog already gone";
 }
@@ -271,8 +247,8 @@ TEST(Search, AQuoteInTheSearchTextIsAnErrorAndTheCursorStays) {
         s.setText("txt_search", "B");
         s.setText("txt_search", "B'");
         EXPECT_EQ(s.currentRow(), 3);
-        key(s, "txt_search", keys::Escape);
+        pressKey(s, "txt_search", keys::Escape);
     });
-    ASSERT_EQ(d.ui.boxes().size(), 1u);
-    EXPECT_EQ(d.ui.boxes()[0].box.text.rfind("Run-time error", 0), 0u) << d.ui.boxes()[0].box.text;
+    ASSERT_EQ(d.boxTexts().size(), 1u);
+    EXPECT_EQ(d.boxTexts()[0].rfind("Run-time error", 0), 0u) << d.boxTexts()[0];
 }

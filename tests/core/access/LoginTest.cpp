@@ -35,32 +35,31 @@ TEST(Login, AValidUserIsRecordedAndTheScreenHides) {
     EXPECT_TRUE(d.ui.boxes().empty());
 }
 
-TEST(Login, RefusalsSayWhoIsNotValid) {
-    LoginDesk d;
-    d.ok("", "secret");
-    ASSERT_EQ(d.ui.boxes().size(), 1u);
-    EXPECT_EQ(d.ui.boxes()[0].box.title, "Incorrect Login");
-    EXPECT_EQ(d.ui.boxes()[0].box.icon, MsgIcon::Critical);
-    EXPECT_EQ(d.login.text("txt_password"), "");
-    EXPECT_EQ(d.login.focused(), "txt_user_name");
-
-    d.ok("ADMIN", "wrong");
-    ASSERT_EQ(d.ui.boxes().size(), 2u);
-    EXPECT_EQ(d.ui.boxes()[1].box.title, "Invalid Login");
-    EXPECT_EQ(d.ui.boxes()[1].box.text, "You Are Not a Valid User");
-    EXPECT_EQ(d.login.text("txt_user_name"), "");
-    EXPECT_EQ(d.login.text("txt_password"), "");
-    EXPECT_TRUE(d.login.visible());
-    EXPECT_EQ(d.app.session().g_UserName, "");
-}
-
-TEST(Login, AQuoteInThePasswordBreaksTheStatementAndLogsNobodyIn) {
-    LoginDesk d;
-    d.ok("ADMIN", "x' or '1'='1");
-    ASSERT_EQ(d.ui.boxes().size(), 1u);
-    EXPECT_EQ(d.ui.boxes()[0].box.text.rfind("Run-time error", 0), 0u);
-    EXPECT_TRUE(d.login.visible());
-    EXPECT_EQ(d.app.session().g_UserName, "");
+TEST(Login, RefusalsSayWhoIsNotValidAndLogNobodyIn) {
+    struct Case {
+        const char *user, *password, *title, *text; // the box's text as it begins
+        const char* userAfter;                      // the name field once refused
+    } cases[] = {
+        {"", "secret", "Incorrect Login", "You Are Not a Valid User", ""},
+        {"ADMIN", "wrong", "Invalid Login", "You Are Not a Valid User", ""},
+        // A quote breaks the statement: the run-time box, and the name stays as typed.
+        {"ADMIN", "x' or '1'='1", kAppTitle, "Run-time error", "ADMIN"},
+    };
+    for (const Case& c : cases) {
+        LoginDesk d;
+        d.ok(c.user, c.password);
+        ASSERT_EQ(d.ui.boxes().size(), 1u) << c.password;
+        EXPECT_EQ(d.ui.boxes()[0].box.title, c.title);
+        EXPECT_EQ(d.ui.boxes()[0].box.text.rfind(c.text, 0), 0u) << d.ui.boxes()[0].box.text;
+        EXPECT_EQ(d.ui.boxes()[0].box.icon, MsgIcon::Critical);
+        EXPECT_EQ(d.login.text("txt_user_name"), c.userAfter);
+        if (std::string(c.title) != kAppTitle) {
+            EXPECT_EQ(d.login.text("txt_password"), "");
+            EXPECT_EQ(d.login.focused(), "txt_user_name");
+        }
+        EXPECT_TRUE(d.login.visible());
+        EXPECT_EQ(d.app.session().g_UserName, "");
+    }
 }
 
 TEST(Login, ChangingAPasswordNeedsAProvenAccountAndNamesAnyAccount) {

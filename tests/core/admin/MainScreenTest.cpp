@@ -114,9 +114,7 @@ TEST(MainScreen, AClickMakesTheCurrentSheetAndOpenLoadsItOnItsTypesScreen) {
     d.click(3);
     d.m.fire("ListView1", EventType::DblClick);
     d.click(4);
-    Event enter{EventType::KeyDown};
-    enter.keyCode = keys::Enter;
-    EXPECT_EQ(d.m.fire("ListView1", enter).keyCode, 0);
+    EXPECT_EQ(test::pressKey(d.m, "ListView1", keys::Enter).keyCode, 0);
     EXPECT_EQ(d.index.loads, (std::vector<std::string>{"NIFX2026|NIFTY For C", "XYZA2026|odd type"}));
     EXPECT_EQ(d.index.focused(), "TxtSymbol");
     EXPECT_EQ(d.stock.loads.size(), 1u);
@@ -133,8 +131,7 @@ TEST(MainScreen, DeleteAsksAndClearsEveryTableOfOneSheetOnly) {
     d.click(2);
     d.ui.queueAnswer(MsgAnswer::No);
     d.m.fire("Cmd(3)", EventType::Click);
-    ASSERT_EQ(d.ui.boxes().size(), 1u);
-    EXPECT_EQ(d.ui.boxes()[0].box.text, "Are you sure you wish to delete record?");
+    EXPECT_EQ(d.boxTexts(), std::vector<std::string>{"Are you sure you wish to delete record?"});
     EXPECT_EQ(d.ui.boxes()[0].box.title, "Delete Record");
     EXPECT_EQ(d.ui.boxes()[0].box.buttons, MsgButtons::YesNo);
     EXPECT_EQ(d.rowsOf("RILK2026", "NOVEMBER For B"), whole);
@@ -179,11 +176,8 @@ TEST(MainScreen, PositionFileTakesTheTickedRows) {
     MainDesk d;
     d.m.show();
     d.m.fire("Command2", EventType::Click);
-    ASSERT_EQ(d.ui.boxes().size(), 1u);
-    EXPECT_EQ(d.ui.boxes()[0].box.text,
-              "Please select the Scripts from the grid whose \"pon\" file is to be created.");
-    EXPECT_EQ(d.ui.boxes()[0].box.title, "Data Error");
-    EXPECT_EQ(d.ui.boxes()[0].box.icon, MsgIcon::Information);
+    EXPECT_EQ(d.boxLines(), std::vector<std::string>{"Data Error|Please select the Scripts from the grid "
+                                                     "whose \"pon\" file is to be created.|information"});
     EXPECT_EQ(d.m.focused(), "ListView1");
     EXPECT_TRUE(d.m.visible());
 
@@ -232,9 +226,7 @@ TEST(MainScreen, ExitAndLoadSpanHideQuitOrEscEndsTheProgram) {
     EXPECT_FALSE(d.m.visible());
     EXPECT_TRUE(d.app.screens().find("FrmSpan_Load")->visible());
 
-    Event esc{EventType::KeyDown};
-    esc.keyCode = keys::Escape;
-    EXPECT_THROW(d.m.fire("Cmd(1)", esc), ProgramEnd);
+    EXPECT_THROW(test::pressKey(d.m, "Cmd(1)", keys::Escape), ProgramEnd);
     EXPECT_FALSE(d.app.storeOpen());
 
     MainDesk again;

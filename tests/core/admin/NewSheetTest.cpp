@@ -77,9 +77,7 @@ TEST(NewSheet, TheSearchDialogGivesNameAndCodeOrClearsBoth) {
     EXPECT_EQ(d.f.text("TxtInSymbol"), "SBIA2026");
     EXPECT_EQ(d.f.text("TxtDesc"), "STATE BANKJANUARY For ");
 
-    Event esc{EventType::KeyDown};
-    esc.keyCode = keys::Escape;
-    d.ui.setModalRunner([&esc](Form& dialog) { dialog.fire("cmd_ok", esc); });
+    d.ui.setModalRunner([](Form& dialog) { test::pressKey(dialog, "cmd_ok", keys::Escape); });
     d.f.fire("cmdScriptNm", EventType::Click);
     EXPECT_EQ(d.f.text("TxtScriptNM"), "");
     EXPECT_EQ(d.f.ScrCode, "");
@@ -96,11 +94,8 @@ TEST(NewSheet, BlankOrUnknownChoicesAreNamed) {
     d.f.setText("DataCombo1", "");
     d.f.moveFocus("Combo1");
     d.f.moveFocus("TxtYear");
-    ASSERT_EQ(d.ui.boxes().size(), 2u);
-    EXPECT_EQ(d.ui.boxes()[0].box.text, "Pls Select the Script Name");
-    EXPECT_EQ(d.ui.boxes()[0].box.title, "Script Select");
-    EXPECT_EQ(d.ui.boxes()[1].box.text, "Pls Select the Month");
-    EXPECT_EQ(d.ui.boxes()[1].box.title, "Month Select");
+    EXPECT_EQ(d.boxLines(), (std::vector<std::string>{"Script Select|Pls Select the Script Name|none",
+                                                      "Month Select|Pls Select the Month|none"}));
 }
 
 TEST(NewSheet, SavingAStockSheetStoresItsRowAndOpensIt) {
@@ -205,10 +200,8 @@ TEST(NewSheet, RefusalsNameTheFaultAndLeaveTheStoreAsItWas) {
         d.f.setText("TxtRateDiff", "2.5");
         d.f.setText("TxtAStrike", c.aStrike);
         d.save();
-        ASSERT_EQ(d.ui.boxes().size(), 1u) << c.name;
-        EXPECT_EQ(d.ui.boxes()[0].box.text, c.box) << c.name;
-        EXPECT_EQ(d.ui.boxes()[0].box.title, c.title) << c.name;
-        EXPECT_EQ(d.ui.boxes()[0].box.icon, MsgIcon::Critical) << c.name;
+        EXPECT_EQ(d.boxLines(), std::vector<std::string>{std::string(c.title) + "|" + c.box + "|critical"})
+            << c.name;
         EXPECT_EQ(d.transRows(), 1) << c.name;
         EXPECT_TRUE(d.stock.loads.empty()) << c.name;
         EXPECT_TRUE(d.f.visible()) << c.name;
@@ -231,9 +224,7 @@ TEST(NewSheet, AHandTypedSymbolIsTakenInCapitals) {
     d.f.setText("TxtRateDiff", "1");
     d.save();
     EXPECT_EQ(d.transText("InSymbol", "TYPED For x"), "ABK2026");
-    Event key{EventType::KeyPress};
-    key.keyAscii = 'q';
-    EXPECT_EQ(d.f.fire("TxtInSymbol", key).keyAscii, 'Q');
+    EXPECT_EQ(test::typeChar(d.f, "TxtInSymbol", 'q').keyAscii, 'Q');
 }
 
 TEST(NewSheet, FieldsCheckAndFormatWhenLeft) {
@@ -257,27 +248,19 @@ TEST(NewSheet, FieldsCheckAndFormatWhenLeft) {
         d.f.setText(c.field, c.typed);
         d.f.moveFocus("TxtBStrike");
         EXPECT_EQ(d.f.text(c.field), c.shown) << c.field << " " << c.typed;
+        EXPECT_EQ(d.boxTexts(), c.box ? std::vector<std::string>{c.box} : std::vector<std::string>{});
         if (c.box) {
-            ASSERT_EQ(d.ui.boxes().size(), 1u) << c.typed;
-            EXPECT_EQ(d.ui.boxes()[0].box.text, c.box);
             EXPECT_EQ(d.ui.boxes()[0].box.title, "Entry Error");
             EXPECT_EQ(d.f.focused(), c.field) << "the focus stays";
-        } else {
-            EXPECT_TRUE(d.ui.boxes().empty()) << c.typed;
         }
     }
 }
 
 TEST(NewSheet, AltKeysChooseTheTypeAndEscCloses) {
     NewSheetDesk d;
-    Event altF{EventType::KeyDown};
-    altF.keyCode = 'F';
-    altF.shift = keys::AltMask;
-    EXPECT_EQ(d.f.fire("TxtDesc", altF).keyCode, 0);
+    EXPECT_EQ(test::pressKey(d.f, "TxtDesc", 'F', keys::AltMask).keyCode, 0);
     EXPECT_TRUE(d.f.control("OptInType(0)").value);
-    Event altS = altF;
-    altS.keyCode = 'S';
-    d.f.fire("Combo1", altS);
+    test::pressKey(d.f, "Combo1", 'S', keys::AltMask);
     EXPECT_TRUE(d.f.control("OptInType(1)").value);
     EXPECT_FALSE(d.f.control("OptInType(0)").value);
 
@@ -285,9 +268,7 @@ TEST(NewSheet, AltKeysChooseTheTypeAndEscCloses) {
     d.f.moveFocus("TxtDesc");
     EXPECT_EQ(d.f.control("TxtDesc").selLength, 3);
 
-    Event esc{EventType::KeyDown};
-    esc.keyCode = keys::Escape;
-    d.f.fire("TxtYear", esc);
+    test::pressKey(d.f, "TxtYear", keys::Escape);
     EXPECT_EQ(d.app.screens().find(FrmNewScript::kName), nullptr);
 }
 
@@ -311,8 +292,7 @@ TEST(NewSheet, AScreenThatCannotTakeASheetIsNamed) {
     f.setText("TxtMStrike", "20000");
     f.setText("TxtRateDiff", "0");
     f.fire("CmdOk", EventType::Click);
-    ASSERT_EQ(d.ui.boxes().size(), 1u);
-    EXPECT_EQ(d.ui.boxes()[0].box.text,
-              "The risk sheet screen FrmPortfolioIndex is not available, so the sheet cannot be opened.");
+    EXPECT_EQ(d.boxTexts(), std::vector<std::string>{"The risk sheet screen FrmPortfolioIndex is not "
+                                                     "available, so the sheet cannot be opened."});
     EXPECT_EQ(d.app.store().query("select count(*) from Trans").at(0).number(), 1) << "the sheet is stored";
 }

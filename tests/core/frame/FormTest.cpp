@@ -65,13 +65,9 @@ TEST(FormEvents, EnterMovesTheFocusOnlyAfterTheKeyHasRun) {
     test::Desk desk(false);
     SampleScreen s(desk.app);
     s.moveFocus("TxtA");
-    Event other{EventType::KeyDown};
-    other.keyCode = 65;
-    s.fire("TxtA", other);
+    test::pressKey(s, "TxtA", 'A');
     EXPECT_EQ(s.focused(), "TxtA");
-    Event enter{EventType::KeyDown};
-    enter.keyCode = keys::Enter;
-    s.fire("TxtA", enter);
+    test::pressKey(s, "TxtA", keys::Enter);
     EXPECT_EQ(s.focused(), "TxtC"); // the label is passed over
     EXPECT_EQ(s.log, (std::vector<std::string>{"lost A", "got C"}));
 }

@@ -49,16 +49,6 @@ TEST(Calculator, FiguresOfTypedInputs) {
     }
 }
 
-TEST(Calculator, DefaultsGiveTwoPricesAndDeltasOneApart) {
-    test::Desk desk(false);
-    FrmCalc& calc = desk.app.screens().get<FrmCalc>();
-    EXPECT_EQ(calc.text("Text1"), "90");
-    EXPECT_EQ(calc.text("Text5"), "10");
-    calc.fire("Command1", EventType::Click);
-    EXPECT_GT(std::stod(calc.text("Text6")), std::stod(calc.text("Text7")));
-    EXPECT_DOUBLE_EQ(std::stod(calc.text("Text8")) - std::stod(calc.text("Text9")), 1.0);
-}
-
 TEST(Calculator, DistributionIsACoarseCappedSum) {
     test::Desk desk(false);
     FrmCalc& calc = desk.app.screens().get<FrmCalc>();

@@ -22,46 +22,28 @@ TEST(IndexEngineCumNormal, MatchesTheNormalDistribution) {
 TEST(IndexEngineRow, MatchesAnIndependentWorking) {
     struct Case {
         IndexInputs in;
-        double d1, d2, call, put, deltaC, deltaP, gamma, vega, thetaC, thetaP;
+        double d[2];       // d1, d2
+        double figures[8]; // call, put, delta of the call and the put, gamma, vega, theta of both
     };
     const Case cases[] = {
         {{100, 105, 0.07, 0.2, 30},
-         -0.7219077502862588,
-         -0.7792459681943583,
-         0.767,
-         5.165,
-         0.235,
-         -0.765,
-         0.054,
-         0.088,
-         -0.034,
-         -0.014},
+         {-0.7219077502862588, -0.7792459681943583},
+         {0.767, 5.165, 0.235, -0.765, 0.054, 0.088, -0.034, -0.014}},
         {{18000, 17800, 0.07, 0.14, 12},
-         0.5435107039290205,
-         0.5181259927499695,
-         326.445,
-         85.528,
-         0.707,
-         -0.293,
-         0.001,
-         11.233,
-         -8.929,
-         -5.523},
+         {0.5435107039290205, 0.5181259927499695},
+         {326.445, 85.528, 0.707, -0.293, 0.001, 11.233, -8.929, -5.523}},
     };
     for (const Case& c : cases) {
         IndexEngine e;
         e.CalcD1Index(c.in);
         e.CalcD2Index(c.in);
-        EXPECT_DOUBLE_EQ(e.d1(), c.d1);
-        EXPECT_DOUBLE_EQ(e.d2(), c.d2);
-        EXPECT_EQ(e.PriceCallIndex(c.in), c.call);
-        EXPECT_EQ(e.PricePutIndex(c.in), c.put);
-        EXPECT_EQ(e.DeltaCallIndex(c.in), c.deltaC);
-        EXPECT_EQ(e.DeltaPutIndex(c.in), c.deltaP);
-        EXPECT_EQ(e.GammaIndex(c.in), c.gamma);
-        EXPECT_EQ(e.VegaIndex(c.in), c.vega);
-        EXPECT_EQ(e.ThetaCallIndex(c.in), c.thetaC);
-        EXPECT_EQ(e.ThetaPutIndex(c.in), c.thetaP);
+        EXPECT_DOUBLE_EQ(e.d1(), c.d[0]);
+        EXPECT_DOUBLE_EQ(e.d2(), c.d[1]);
+        const double got[] = {e.PriceCallIndex(c.in), e.PricePutIndex(c.in), e.DeltaCallIndex(c.in),
+                              e.DeltaPutIndex(c.in),  e.GammaIndex(c.in),    e.VegaIndex(c.in),
+                              e.ThetaCallIndex(c.in), e.ThetaPutIndex(c.in)};
+        for (int k = 0; k < 8; ++k)
+            EXPECT_EQ(got[k], c.figures[k]) << "figure " << k << " of S " << c.in.S;
     }
 }
 

@@ -106,28 +106,27 @@ TEST(StockEngineTheta, ReadsTheLastTreeRun) {
 
 TEST(StockEngineFaults, RaiseTheDesksErrors) {
     const StockEngine engine;
-    const auto error = [](auto&& f) {
-        try {
-            f();
-        } catch (const VbError& e) {
-            return e.number();
-        }
-        return 0L;
+    using Greek = double (StockEngine::*)(const StockInputs&) const;
+    struct Case {
+        Greek greek;
+        StockInputs in;
+        long error;
+    } cases[] = {
+        {&StockEngine::GammaCall, {-100, 104, 0.07, 0.3, 0.3, 20}, vberr::InvalidCall}, // ln of S/K < 0
+        {&StockEngine::VegaCall, {100, 0, 0.07, 0.3, 0.3, 20}, vberr::DivisionByZero},  // S/0
+        {&StockEngine::GammaCall, {100, 104, 0.07, 0, 0.3, 20}, vberr::DivisionByZero}, // sigma 0
+        {&StockEngine::VegaPut, {100, 104, 0.07, 0.3, 0.3, -3}, vberr::InvalidCall},    // sqrt of T < 0
+        {&StockEngine::ThetaCall, {100, 104, 0.07, 0, 0.3, 20}, vberr::DivisionByZero},
     };
-    EXPECT_EQ(error([&] {
-                  engine.GammaCall({-100, 104, 0.07, 0.3, 0.3, 20});
-              }),
-              vberr::InvalidCall); // ln of S/K < 0
-    EXPECT_EQ(error([&] { engine.VegaCall({100, 0, 0.07, 0.3, 0.3, 20}); }), vberr::DivisionByZero); // S/0
-    EXPECT_EQ(error([&] {
-                  engine.GammaCall({100, 104, 0.07, 0, 0.3, 20});
-              }),
-              vberr::DivisionByZero); // sigma 0
-    EXPECT_EQ(error([&] {
-                  engine.VegaPut({100, 104, 0.07, 0.3, 0.3, -3});
-              }),
-              vberr::InvalidCall); // sqrt of T < 0
-    EXPECT_EQ(error([&] { engine.ThetaCall({100, 104, 0.07, 0, 0.3, 20}); }), vberr::DivisionByZero);
+    for (const Case& c : cases) {
+        long error = 0;
+        try {
+            (engine.*c.greek)(c.in);
+        } catch (const VbError& e) {
+            error = e.number();
+        }
+        EXPECT_EQ(error, c.error) << "S " << c.in.S << " K " << c.in.K << " days " << c.in.days;
+    }
 }
 
 } // namespace

@@ -13,9 +13,8 @@ struct NewLadder : test::SheetDesk {
     RiskSheet& s;
     NewLadder() : s(openNew()) {}
     RiskSheet& openNew() {
-        addTrans("TCSK2026", "FRESH", "S", 1000, 1, 1, 20, 6);
         app.session().g_ExpiryDate = VbDate::fromYmd(2026, 12, 10);
-        RiskSheet& sheet = open(SheetKind::Stock, "TCSK2026", "FRESH");
+        RiskSheet& sheet = openFresh();
         sheet.setText("TxtImpVol", "40");
         sheet.setText("TxtImpVolP", "55");
         return sheet;

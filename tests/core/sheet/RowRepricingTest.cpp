@@ -2,7 +2,6 @@
 // Expected figures come from the tree and index formulas of sheet_figures.py, run by hand for
 // these rows (S 1010 / 6050, 17 days, rates 7% / 8%), not from the code under test.
 #include "SheetDesk.h"
-#include "SheetScenarios.h"
 
 #include <gtest/gtest.h>
 
@@ -10,18 +9,15 @@ using namespace tallimark;
 
 namespace {
 
-struct OpenSheet : test::SheetDesk {
-    RiskSheet& s;
-    explicit OpenSheet(SheetKind kind) : s(test::openSavedScenario(*this, kind)) {}
+struct OpenSheet : test::LiveSheetDesk {
+    using LiveSheetDesk::LiveSheetDesk;
     const std::string& cell(int row, int col) { return s.va1().text(row, col); }
     // Types a volatility into a row and presses a key on the ladder.
     void reprice(int row, const std::string& vol, int key = keys::Tab) {
         s.va1().activeRow = row;
         s.va1().activeCol = 6;
         s.va1().setText(row, 6, vol);
-        Event e{EventType::KeyDown};
-        e.keyCode = key;
-        s.fire(RiskSheet::kLadder, e);
+        test::pressKey(s, RiskSheet::kLadder, key);
     }
 };
 

@@ -1,7 +1,6 @@
 // The sheet's own balances: the scenario balances a save stores, tomorrow's balance with its
 // closed series, the exposure margin and the sum of the result fields.
 #include "SheetDesk.h"
-#include "SheetScenarios.h"
 
 #include <gtest/gtest.h>
 
@@ -12,8 +11,7 @@ TEST(SheetBalances, TheScenarioBalancesTenAndTwentyPercentEitherWay) {
     for (const test::SavedSheet& c : test::kSavedSheets) {
         SCOPED_TRACE(c.name);
         test::SheetDesk d;
-        c.save(d.app.store());
-        RiskSheet& s = d.open(c.kind, c.symbol(), c.desc());
+        RiskSheet& s = test::openSaved(d, c);
         const double lastTree = s.OptionValue();
         s.PrevMktPrice = "";
         s.CalcUpDnBal();
@@ -29,8 +27,7 @@ TEST(SheetBalances, TheScenarioBalancesTenAndTwentyPercentEitherWay) {
 
 TEST(SheetBalances, ScenariosStopWhereAFaultStands) {
     test::SheetDesk d;
-    test::saveStockSheet(d.app.store(), "1010", "10-Dec-2026");
-    RiskSheet& s = d.open(SheetKind::Stock, test::kStockSymbol, test::kStockDesc);
+    RiskSheet& s = test::openSavedScenario(d, SheetKind::Stock);
     s.va1().setText(2, 1, "x");
     s.UpBal = {1, 1, 1, 1};
     s.CalcUpDnBal();
@@ -54,8 +51,7 @@ TEST(SheetBalances, TomorrowsBalanceCountsAClosedSeriesAtItsNextDayValue) {
     } cases[] = {{"5", "-6"}, {"0", "0"}};
     for (const Case& c : cases) {
         test::SheetDesk d;
-        d.addTrans("TCSK2026", "FRESH", "S", 1000, 1, 1, 20, 6);
-        RiskSheet& s = d.open(SheetKind::Stock, "TCSK2026", "FRESH");
+        RiskSheet& s = d.openFresh();
         d.addTrade("DummyTracker", "TCSK2026", "FRESH", "1000", "C", 2, 10, {{"DumThVal", "9"}});
         d.addTrade("DummyTracker", "TCSK2026", "FRESH", "1000", "C", -2, 12, {{"DumThVal", "9"}});
         d.addTrade("DummyTracker", "TCSK2026", "FRESH", "", "S", 4, 990, {{"CashType", "'F'"}});

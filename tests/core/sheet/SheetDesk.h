@@ -1,6 +1,7 @@
 #pragma once
 // A desk with sheets in its store: the rows a new-sheet screen and a save would have written,
 // put in directly, and the sheet screens opened on them.
+#include "SheetScenarios.h"
 #include "TestDesk.h"
 
 #include "frame/VbNumber.h"
@@ -63,13 +64,14 @@ struct SheetDesk : Desk {
         insert(table, c);
     }
 
+    // A new sheet, TCSK2026 "FRESH" round a middle strike of 1000, never saved.
+    RiskSheet& openFresh(SheetKind kind = SheetKind::Stock, int above = 1, int below = 1, double step = 20) {
+        addTrans("TCSK2026", "FRESH", kind == SheetKind::Stock ? "S" : "F", 1000, above, below, step, 6);
+        return open(kind, "TCSK2026", "FRESH");
+    }
+
     RiskSheet& open(SheetKind kind, const std::string& symbol, const std::string& desc) {
-        app.session().g_strSymbol = symbol;
-        app.session().g_strDesc = desc;
-        RiskSheet& sheet = riskSheet(app, kind);
-        sheet.DoInit();
-        sheet.show(); // as the list of sheets opens it: the activation notes the market inputs
-        return sheet;
+        return openSheet(app, kind, symbol, desc);
     }
 
     double number(const std::string& sql) {
@@ -85,5 +87,11 @@ inline std::vector<std::string> rowCells(RiskSheet& sheet, int row) {
         cells.push_back(sheet.va1().text(row, c));
     return cells;
 }
+
+// A desk with the live stock or index sheet of SheetScenarios.h open.
+struct LiveSheetDesk : SheetDesk {
+    RiskSheet& s;
+    explicit LiveSheetDesk(SheetKind kind = SheetKind::Stock) : s(openSavedScenario(*this, kind)) {}
+};
 
 } // namespace tallimark::test

@@ -4,7 +4,6 @@
 // desk's formulas (the tree node by node with both powers, the midpoint normal sum, the index
 // closed forms, half-even Round, the 15-digit number text) and of the refresh in its order.
 #include "SheetDesk.h"
-#include "SheetScenarios.h"
 
 #include <gtest/gtest.h>
 
@@ -14,8 +13,7 @@ TEST(SheetFigures, EveryFieldAndCellAfterTheOpeningRefresh) {
     for (const test::SavedSheet& c : test::kSavedSheets) {
         SCOPED_TRACE(c.name);
         test::SheetDesk d;
-        c.save(d.app.store());
-        RiskSheet& s = d.open(c.kind, c.symbol(), c.desc());
+        RiskSheet& s = test::openSaved(d, c);
         EXPECT_TRUE(d.ui.boxes().empty()) << d.boxTexts().front();
         for (size_t i = 0; i < c.fieldCount; ++i)
             EXPECT_EQ(s.text(c.fields[i].first), c.fields[i].second) << c.fields[i].first;

@@ -1,7 +1,6 @@
 // Opening a sheet: a new one built round its market price, a saved one from its head and
 // ladder, the working copy of the ledger, and dropping a sheet that was never saved.
 #include "SheetDesk.h"
-#include "SheetScenarios.h"
 
 #include "admin/FrmNewMainScreen.h"
 
@@ -16,9 +15,8 @@ const Rgb kRed = RGB(255, 0, 0), kCyan = RGB(0, 255, 255), kYellow = RGB(255, 25
 
 struct NewSheetDesk : test::SheetDesk {
     RiskSheet& openNew(int above, int below, double step = 20) {
-        addTrans("TCSK2026", "FRESH", "S", 1000, above, below, step, 6);
         app.session().g_ExpiryDate = VbDate::fromYmd(2026, 11, 26);
-        return open(SheetKind::Stock, "TCSK2026", "FRESH");
+        return openFresh(SheetKind::Stock, above, below, step);
     }
 };
 
@@ -90,8 +88,7 @@ TEST(SheetLoad, TheScriptGivesLotAndExposureMarginWithNullsAsZero) {
 
 TEST(SheetLoad, ASavedSheetComesBackFromItsHeadAndLadder) {
     test::SheetDesk d;
-    test::saveStockSheet(d.app.store(), "1010", "10-Dec-2026");
-    RiskSheet& s = d.open(SheetKind::Stock, test::kStockSymbol, test::kStockDesc);
+    RiskSheet& s = test::openSavedScenario(d, SheetKind::Stock);
     const std::pair<const char*, const char*> fields[] = {
         {"TxtSymbol", "RILK2026"},
         {"TxtMktPrice", "1010"},
@@ -139,11 +136,10 @@ TEST(SheetLoad, ASavedSheetPastItsExpiryKeepsItsDaysAndItsExposureMargin) {
 
 TEST(SheetLoad, TheSavedDeltaNeutralAndBalanceSurviveALoad) {
     test::SheetDesk d;
-    test::saveStockSheet(d.app.store(), "1010", "10-Dec-2026");
     RiskSheet& s = riskSheet(d.app, SheetKind::Stock);
     s.SavedDelNeutral = "3";
     s.SavedBalance = "273";
-    d.open(SheetKind::Stock, test::kStockSymbol, test::kStockDesc);
+    test::openSavedScenario(d, SheetKind::Stock);
     EXPECT_EQ(s.SavedDelNeutral, "3");
     EXPECT_EQ(s.SavedBalance, "273");
 }
@@ -195,11 +191,10 @@ TEST(SheetLoad, DroppingASheetThatWasNeverSaved) {
     };
     for (const Case& c : cases) {
         test::SheetDesk d;
-        d.addTrans("TCSK2026", "FRESH", c.kind == SheetKind::Stock ? "S" : "F", 1000, 1, 1, 20, 6);
         if (c.saved) d.insert("PortfolioMast", {{"Symbol", "'TCSK2026'"}, {"Descr", "'FRESH'"}});
+        RiskSheet& s = d.openFresh(c.kind);
         FrmNewMainScreen& list = d.app.screens().get<FrmNewMainScreen>();
         ASSERT_EQ(list.grid("ListView1").maxRows(), 1);
-        RiskSheet& s = d.open(c.kind, "TCSK2026", "FRESH");
         d.addTrade("DummyTracker", "TCSK2026", "FRESH", "1000", "C", 1, 5);
         d.addTrade("DummyTracker", "ACCX2026", "OTHER", "500", "C", 1, 5);
         d.insert("DumUploadFile", {{"Symbol", "'TCSK2026'"}, {"InDesc", "'FRESH'"}});

@@ -1,7 +1,6 @@
 // The refresh cycle and what starts it: the key test, the market inputs left with a new value,
 // their checks, the calendar, and the click that works out one series' hedges.
 #include "SheetDesk.h"
-#include "SheetScenarios.h"
 
 #include <gtest/gtest.h>
 
@@ -9,9 +8,8 @@ using namespace tallimark;
 
 namespace {
 
-struct LiveSheet : test::SheetDesk {
-    RiskSheet& s;
-    explicit LiveSheet(SheetKind kind = SheetKind::Stock) : s(test::openSavedScenario(*this, kind)) {}
+struct LiveSheet : test::LiveSheetDesk {
+    using LiveSheetDesk::LiveSheetDesk;
     // Marks the valuation date; a refresh writes it again.
     void mark() { s.setText("TxtCurDt", "x"); }
     bool refreshed() { return s.text("TxtCurDt") != "x"; }
@@ -92,11 +90,9 @@ TEST(SheetRefresh, AFigureThatIsNoNumberIsRefusedAndKeepsTheFocus) {
         LiveSheet d;
         d.mark();
         d.type(field, "12x");
-        ASSERT_EQ(d.ui.boxes().size(), 1u) << field;
-        const MsgBox& box = d.ui.boxes()[0].box;
-        EXPECT_EQ(box.text, "Only Numeric Values allowed here");
-        EXPECT_EQ(box.title, "Invalid Entry");
-        EXPECT_EQ(box.icon, MsgIcon::Critical);
+        EXPECT_EQ(d.boxLines(),
+                  std::vector<std::string>{"Invalid Entry|Only Numeric Values allowed here|critical"})
+            << field;
         EXPECT_EQ(d.s.text(field), "");
         EXPECT_EQ(d.s.focused(), field);
         EXPECT_FALSE(d.refreshed());
@@ -124,8 +120,7 @@ TEST(SheetRefresh, TheCalendarSetsTheDaysUpToTheExpiry) {
     EXPECT_EQ(d.s.text("DTPicker1"), "30-Nov-26");
 
     d.s.setText("DTPicker1", "11-Dec-26");
-    ASSERT_EQ(d.ui.boxes().size(), 1u);
-    EXPECT_EQ(d.ui.boxes()[0].box.text, "Pls Select the Date In Between Expiry Date ");
+    EXPECT_EQ(d.boxTexts(), std::vector<std::string>{"Pls Select the Date In Between Expiry Date "});
     EXPECT_EQ(d.s.text("TxtDays"), "10");
     EXPECT_EQ(d.s.focused(), "DTPicker1");
 }
@@ -166,8 +161,7 @@ TEST(SheetRefresh, HedgeTextsByRowSideAndTheSignOfDeltaNeutral) {
 
 TEST(SheetRefresh, NoDeltaBlanksThePointsOfACallAndTheHedgeOfAPut) {
     test::SheetDesk d;
-    test::saveStockSheet(d.app.store(), "1000", "23-Nov-2026");
-    RiskSheet& s = d.open(SheetKind::Stock, test::kStockSymbol, test::kStockDesc);
+    RiskSheet& s = test::openSaved(d, test::kSavedSheets[1]); // the stock sheet on its expiry day
     s.setText("TxtDelHed", "kept");
     s.va1_Click(1, 8); // 1020 C at expiry: delta 0
     EXPECT_EQ(s.text("TxtDelPts"), " ");

@@ -1,7 +1,6 @@
 // Saving a sheet: the head and ladder rows as stored, the steps that go on past a failure, the
 // upload bookkeeping, and a saved sheet that reopens as it was.
 #include "SheetDesk.h"
-#include "SheetScenarios.h"
 
 #include <gtest/gtest.h>
 
@@ -10,10 +9,7 @@ using namespace tallimark;
 namespace {
 
 struct SaveDesk : test::SheetDesk {
-    RiskSheet& openSaved(const test::SavedSheet& sheet) {
-        sheet.save(app.store());
-        return open(sheet.kind, sheet.symbol(), sheet.desc());
-    }
+    RiskSheet& openStock() { return test::openSavedScenario(*this, SheetKind::Stock); }
     Recordset head() { return app.store().query("select * from PortfolioMast"); }
 };
 
@@ -34,7 +30,7 @@ std::vector<std::string> screenTexts(RiskSheet& s) {
 
 TEST(SheetSave, TheHeadTakesTheFieldsBlankFiguresAsZero) {
     SaveDesk d;
-    RiskSheet& s = d.openSaved(test::kSavedSheets[0]);
+    RiskSheet& s = d.openStock();
     s.setText("TxtKeyOff", "K9");
     s.setText("TxtNet", "");
     s.setText("TxtDelHed", "BUY  12");
@@ -62,7 +58,7 @@ TEST(SheetSave, EveryLadderRowIsStoredAndHeldRowsAreMarked) {
     // Five strikes, call and put: ten rows; positions stand at 960 P, 980 C and 1000 P, the
     // 1020 C trades net to nothing (SheetScenarios.h).
     SaveDesk d;
-    RiskSheet& s = d.openSaved(test::kSavedSheets[0]);
+    RiskSheet& s = d.openStock();
     s.SaveData();
     EXPECT_EQ(d.number("select count(*) from PortfolioDet"), 10);
     EXPECT_EQ(d.number("select count(*) from PortfolioDet where Field2 <> 0"), 3);
@@ -73,13 +69,12 @@ TEST(SheetSave, EveryLadderRowIsStoredAndHeldRowsAreMarked) {
 
 TEST(SheetSave, AFailedHeadLeavesTheOtherStepsToRun) {
     SaveDesk d;
-    RiskSheet& s = d.openSaved(test::kSavedSheets[0]);
+    RiskSheet& s = d.openStock();
     d.app.store().execute("delete from PortfolioDet");
     s.setText("TxtKeyOff", "O'Neil");
     s.SaveData();
-    ASSERT_EQ(d.ui.boxes().size(), 1u);
-    EXPECT_EQ(d.ui.boxes()[0].box.text.rfind("Error in AddMaster Procedure: ", 0), 0u)
-        << d.ui.boxes()[0].box.text;
+    ASSERT_EQ(d.boxTexts().size(), 1u);
+    EXPECT_EQ(d.boxTexts()[0].rfind("Error in AddMaster Procedure: ", 0), 0u) << d.boxTexts()[0];
     EXPECT_TRUE(d.head().eof()) << "the old head is gone and no new one written";
     EXPECT_EQ(d.number("select count(*) from PortfolioDet"), 10);
     EXPECT_EQ(s.SavedBalance, Trim(s.text("TxtBalance")));
@@ -87,7 +82,7 @@ TEST(SheetSave, AFailedHeadLeavesTheOtherStepsToRun) {
 
 TEST(SheetSave, TheUploadBookkeepingOfTheSheetIsReplaced) {
     SaveDesk d;
-    RiskSheet& s = d.openSaved(test::kSavedSheets[0]);
+    RiskSheet& s = d.openStock();
     Store& store = d.app.store();
     store.execute("insert into UploadFile (tradedt, futstk, equity, symbol, Indesc) values "
                   "(cdate('20-Nov-2026'), 'old.txt', '', 'RILK2026', 'NOV SHEET')");
@@ -106,7 +101,7 @@ TEST(SheetSave, TheUploadBookkeepingOfTheSheetIsReplaced) {
 TEST(SheetSave, ASavedSheetReopensAsItWasSaved) {
     for (const test::SavedSheet& sheet : {test::kSavedSheets[0], test::kSavedSheets[2]}) {
         SaveDesk d;
-        RiskSheet& s = d.openSaved(sheet);
+        RiskSheet& s = test::openSaved(d, sheet);
         s.va1().activeRow = 4;
         d.ui.setModalRunner([](Form& dialog) {
             dialog.setText("TxtUnits", "3");

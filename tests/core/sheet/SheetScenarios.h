@@ -4,6 +4,7 @@
 // bought, sold and closed out, calls and puts, and the underlying (futures and, on the stock
 // sheet, equity). The price and expiry are the test's: the sheets open on 23-Nov-2026.
 #include "SheetFigures.h"
+#include "frame/App.h"
 #include "frame/Store.h"
 #include "sheet/RiskSheet.h"
 
@@ -144,15 +145,26 @@ inline const SavedSheet kSavedSheets[] = {
 
 #undef TALLIMARK_SAVED_SHEET
 
-// Writes the saved stock sheet (market 1010) or index sheet (market 6050), both expiring
-// 10-Dec-2026, and opens it on the desk.
+// Opens a sheet as the list of sheets does: the current sheet named, loaded and shown (the
+// activation notes the market inputs).
+inline RiskSheet& openSheet(App& app, SheetKind kind, const std::string& symbol, const std::string& desc) {
+    app.session().g_strSymbol = symbol;
+    app.session().g_strDesc = desc;
+    RiskSheet& sheet = riskSheet(app, kind);
+    sheet.DoInit();
+    sheet.show();
+    return sheet;
+}
+
+// Writes a saved sheet and opens it on the desk.
+template <class Desk> RiskSheet& openSaved(Desk& desk, const SavedSheet& sheet) {
+    sheet.save(desk.app.store());
+    return desk.open(sheet.kind, sheet.symbol(), sheet.desc());
+}
+
+// The live stock sheet (market 1010) or index sheet (market 6050), both expiring 10-Dec-2026.
 template <class Desk> RiskSheet& openSavedScenario(Desk& desk, SheetKind kind) {
-    if (kind == SheetKind::Stock) {
-        saveStockSheet(desk.app.store(), "1010", "10-Dec-2026");
-        return desk.open(kind, kStockSymbol, kStockDesc);
-    }
-    saveIndexSheet(desk.app.store(), "6050", "10-Dec-2026");
-    return desk.open(kind, kIndexSymbol, kIndexDesc);
+    return openSaved(desk, kSavedSheets[kind == SheetKind::Stock ? 0 : 2]);
 }
 
 } // namespace tallimark::test

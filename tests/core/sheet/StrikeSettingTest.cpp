@@ -1,7 +1,6 @@
 // F7 on the sheet: the strike setting dialog and the ladder widened at both ends. The expected
 // ladders are worked out by hand from the saved sheet (960 to 1040 by 20, two strikes each side).
 #include "SheetDesk.h"
-#include "SheetScenarios.h"
 #include "sheet/FrmSettingStrike.h"
 
 #include <gtest/gtest.h>
@@ -10,13 +9,7 @@ using namespace tallimark;
 
 namespace {
 
-struct StockSheet : test::SheetDesk {
-    RiskSheet& s;
-    StockSheet() : s(openStock()) {}
-    RiskSheet& openStock() {
-        test::saveStockSheet(app.store(), "1010", "10-Dec-2026");
-        return open(SheetKind::Stock, test::kStockSymbol, test::kStockDesc);
-    }
+struct StockSheet : test::LiveSheetDesk {
     // F7 with the dialog answered by typing the counts and pressing a button.
     void pressF7(const std::string& above, const std::string& below, const char* button = "Command1") {
         ui.setModalRunner([=, this](Form& dialog) {
@@ -25,9 +18,7 @@ struct StockSheet : test::SheetDesk {
             dialog.setText("TxtBelowe", below);
             dialog.fire(button, EventType::Click);
         });
-        Event e{EventType::KeyDown};
-        e.keyCode = keys::F7;
-        s.fire(RiskSheet::kLadder, e);
+        test::pressKey(s, RiskSheet::kLadder, keys::F7);
     }
     std::string labels; // as the dialog came up
     std::string column(int col) {
@@ -78,14 +69,9 @@ TEST(StrikeSetting, CancelledOrRefusedEntriesLeaveTheLadder) {
         const std::string before = d.column(1);
         d.pressF7(c.above, c.below, c.button);
         EXPECT_EQ(d.column(1), before) << c.above << " " << c.below;
-        if (c.box) {
-            ASSERT_EQ(d.ui.boxes().size(), 1u);
-            EXPECT_EQ(d.ui.boxes()[0].box.text, c.box);
-            EXPECT_EQ(d.ui.boxes()[0].box.title, "Wrong Input ");
-            EXPECT_EQ(d.ui.boxes()[0].box.icon, MsgIcon::Critical);
-        } else {
-            EXPECT_TRUE(d.ui.boxes().empty());
-        }
+        EXPECT_EQ(d.boxLines(),
+                  c.box ? std::vector<std::string>{std::string("Wrong Input |") + c.box + "|critical"}
+                        : std::vector<std::string>{});
     }
 }
 
@@ -116,9 +102,7 @@ TEST(StrikeSetting, TheDialogOnItsOwn) {
     EXPECT_FALSE(f.visible());
 
     f.show();
-    Event esc{EventType::KeyDown};
-    esc.keyCode = keys::Escape;
-    f.fire("TxtAbove", esc);
+    test::pressKey(f, "TxtAbove", keys::Escape);
     EXPECT_FALSE(f.Accepted);
     EXPECT_EQ(f.NumBelow, 0) << "Esc clears both counts";
     EXPECT_FALSE(f.visible());
@@ -138,9 +122,7 @@ TEST(StrikeSetting, StrikesBelowZeroAndTheSixteenBitLimit) {
         d.s.va1().setText(2, 1, "40000");
         bool shown = false;
         d.ui.setModalRunner([&](Form&) { shown = true; });
-        Event e{EventType::KeyDown};
-        e.keyCode = keys::F7;
-        d.s.fire(RiskSheet::kLadder, e);
+        test::pressKey(d.s, RiskSheet::kLadder, keys::F7);
         EXPECT_FALSE(shown);
         ASSERT_EQ(d.ui.boxes().size(), 1u);
         EXPECT_EQ(d.ui.boxes()[0].box.text.rfind("Error in Form_KeyDown Procedure: ", 0), 0u)

@@ -1,7 +1,6 @@
 // The working ledger: trades appended from the sheet, held series kept current, and the commit
 // of a sheet's rows to Tracker, for the stock sheet and the index sheet's whole-table ways.
 #include "sheet/SheetDesk.h"
-#include "sheet/SheetScenarios.h"
 
 #include <gtest/gtest.h>
 
@@ -9,9 +8,8 @@ using namespace tallimark;
 
 namespace {
 
-struct OpenSheet : test::SheetDesk {
-    RiskSheet& s;
-    explicit OpenSheet(SheetKind kind = SheetKind::Stock) : s(test::openSavedScenario(*this, kind)) {}
+struct OpenSheet : test::LiveSheetDesk {
+    using LiveSheetDesk::LiveSheetDesk;
     // The columns of the one ledger row a condition picks, as text.
     std::string row(const std::string& where, const std::vector<const char*>& columns) {
         Recordset rs = app.store().query("select * from DummyTracker where " + where);

@@ -12,11 +12,7 @@
 namespace tallimark::test {
 
 struct EntryDesk : Desk {
-    static void key(Form& form, const std::string& control, int keyCode) {
-        Event e{EventType::KeyDown};
-        e.keyCode = keyCode;
-        form.fire(control, e);
-    }
+    static void key(Form& form, const std::string& control, int keyCode) { pressKey(form, control, keyCode); }
     // Types into a field standing in it, then moves on to another control.
     static void typeAndLeave(Form& form, const std::string& field, const std::string& text,
                              const std::string& next) {

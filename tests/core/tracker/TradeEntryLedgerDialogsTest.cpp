@@ -22,11 +22,15 @@ struct LedgerDesk : test::EntryDesk {
         // The ladder of the sheet (a call and a put row per strike) and one of another sheet.
         for (const char* strike : {"17100", "16900", "17000"})
             for (const char* cp : {"C", "P"})
-                app.store().execute(
-                    std::string("insert into PortfolioDet (Symbol, Descr, Strike, CP) values ('") + kSymbol +
-                    "', '" + kDesc + "', " + strike + ", '" + cp + "')");
-        app.store().execute("insert into PortfolioDet (Symbol, Descr, Strike, CP) values ('NIFX2026', "
-                            "'Other', 99999, 'C')");
+                addLadderRow(kDesc, strike, cp);
+        addLadderRow("Other", "99999", "C");
+        // The current sheet, for a dialog whose opener names none.
+        app.session().g_strSymbol = kSymbol;
+        app.session().g_strDesc = kDesc;
+    }
+    void addLadderRow(const std::string& desc, const char* strike, const char* cp) {
+        app.store().execute("insert into PortfolioDet (Symbol, Descr, Strike, CP) values (" + q(kSymbol) +
+                            ", " + q(desc) + ", " + strike + ", " + q(cp) + ")");
     }
     int ledgerRows() {
         return static_cast<int>(app.store().query("select count(*) as n from DummyTracker")["n"].number());
@@ -36,9 +40,12 @@ struct LedgerDesk : test::EntryDesk {
 
 struct OptionNewDesk : LedgerDesk {
     FrmOption_New& dlg = app.screens().get<FrmOption_New>();
+    // A null symbol leaves the sheet to the dialog.
     explicit OptionNewDesk(const char* symbol = kSymbol, const char* desc = kDesc) {
-        dlg.Symbol = symbol;
-        dlg.Descr = desc;
+        if (symbol) {
+            dlg.Symbol = symbol;
+            dlg.Descr = desc;
+        }
         dlg.showModal();
     }
     void fill(const char* strike, const char* cp, const char* units, const char* traded) {
@@ -156,17 +163,10 @@ TEST(TradeEntryOptionNew, AQuoteInTheSheetBreaksTheStatementsAndNothingIsWritten
 }
 
 TEST(TradeEntryOptionNew, WithoutASheetFromTheOpenerTheCurrentSheetIsUsed) {
-    LedgerDesk d;
-    d.app.session().g_strSymbol = kSymbol;
-    d.app.session().g_strDesc = kDesc;
-    auto& dlg = d.app.screens().get<FrmOption_New>();
-    dlg.showModal();
-    EXPECT_EQ(dlg.control("CmbStrike").items.size(), 3u);
-    dlg.setText("CmbStrike", "16900");
-    dlg.setText("CmbC_P", "C");
-    dlg.setText("TxtUnits", "1");
-    dlg.setText("TxtTraded", "2");
-    dlg.fire("CmdOk", EventType::Click);
+    OptionNewDesk d(nullptr);
+    EXPECT_EQ(d.dlg.control("CmbStrike").items.size(), 3u);
+    d.fill("16900", "C", "1", "2");
+    d.dlg.fire("CmdOk", EventType::Click);
     EXPECT_EQ(d.ledger()["Symbol"].text(), kSymbol);
     EXPECT_EQ(d.ledger()["InDesc"].text(), kDesc);
 }
@@ -191,19 +191,15 @@ TEST(TradeEntryOptionNew, EnterMovesOnAndEscCancels) {
     EXPECT_EQ(d.dlg.focused(), "CmbStrike");
 }
 
-TEST(TradeEntryUnderlyingNew, ComesUpOfferingFutures) {
-    UnderlyingNewDesk d;
-    EXPECT_EQ(d.dlg.text("CmbType"), "Future");
-    EXPECT_EQ(d.dlg.control("CmbType").items, (std::vector<std::string>{"Future", "Equity"}));
-    EXPECT_EQ(d.dlg.focused(), "TxtUnits");
-    d.expectClockTime(d.dlg.text("LblTime"));
-}
-
-TEST(TradeEntryUnderlyingNew, OkWritesAnUnderlyingRowOfTheChosenKind) {
+TEST(TradeEntryUnderlyingNew, ComesUpOfferingFuturesAndOkWritesARowOfTheChosenKind) {
     const std::tuple<const char*, const char*> kinds[] = {{"Future", "F"}, {" equity ", "Q"}};
     for (const auto& [type, cash] : kinds) {
         SCOPED_TRACE(type);
         UnderlyingNewDesk d;
+        EXPECT_EQ(d.dlg.text("CmbType"), "Future");
+        EXPECT_EQ(d.dlg.control("CmbType").items, (std::vector<std::string>{"Future", "Equity"}));
+        EXPECT_EQ(d.dlg.focused(), "TxtUnits");
+        d.expectClockTime(d.dlg.text("LblTime"));
         d.dlg.setText("CmbType", type);
         d.dlg.setText("TxtUnits", "50");
         d.dlg.setText("TxtTraded", "12.346");
