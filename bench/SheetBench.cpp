@@ -112,12 +112,22 @@ void refresh(benchmark::State& state, SheetKind kind) {
 void BM_StockSheetRefresh(benchmark::State& state) {
     refresh(state, SheetKind::Stock);
 }
-BENCHMARK(BM_StockSheetRefresh)->Arg(400)->Arg(1000)->Arg(2000)->Arg(kLedgerRows)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_StockSheetRefresh)
+    ->Arg(400)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Arg(kLedgerRows)
+    ->Unit(benchmark::kMillisecond);
 
 void BM_IndexSheetRefresh(benchmark::State& state) {
     refresh(state, SheetKind::Index);
 }
-BENCHMARK(BM_IndexSheetRefresh)->Arg(400)->Arg(1000)->Arg(2000)->Arg(kLedgerRows)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_IndexSheetRefresh)
+    ->Arg(400)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Arg(kLedgerRows)
+    ->Unit(benchmark::kMillisecond);
 
 // A save of the refreshed sheet: head with its four scenarios, ladder, committed trades.
 void save(benchmark::State& state, SheetKind kind) {
