@@ -13,6 +13,9 @@ namespace tallimark {
 
 MainWindow::MainWindow(Form& form) : mdiArea_(new QMdiArea) {
     setCentralWidget(mdiArea_);
+    // A sheet is wider than a small screen: the frame scrolls to the rest of it.
+    mdiArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    mdiArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     // The menus are the model's Menu controls in their order; an entry that others stand under
     // is a menu of its own. The binder gives them their captions.
     std::vector<const Control*> menus;

@@ -198,7 +198,11 @@ void QtUi::showForm(Form& form) {
     // Without the main frame a screen stands as a window of its own.
     followFixedSize(*host, *view.widget);
     present(form, host, view.widget, view.binder, nullptr);
-    host->show();
+    // The frame the desk works in all day takes the whole screen.
+    if (host == main_)
+        host->showMaximized();
+    else
+        host->show();
 }
 
 void QtUi::formHidden(Form& form) {
