@@ -153,7 +153,7 @@ public:
     }
 
 private:
-    static constexpr size_t kCapacity = 4096;
+    static constexpr size_t kCapacity = 1024;
 
     sqlite3_stmt* prepare(std::string_view sql) {
         const std::string mapped = sqldialect::toSqlite(sql);
