@@ -4,6 +4,8 @@
 #include "frame/ComProc.h"
 #include "frame/VbNumber.h"
 
+#include <string_view>
+
 namespace tallimark {
 
 namespace {
@@ -35,6 +37,16 @@ FrmPwdBase::FrmPwdBase(App& app, const char* name, bool readsUserName, int h, in
 
     for (const char* field : {"txt_user_name", "txt_password"})
         on(field, EventType::GotFocus, [this, field](Event&) { SelectAll(*this, field); });
+    // Enter moves from field to field; after the password of a plain login it presses Ok.
+    for (const char* field : {"txt_user_name", "txt_password", "txt_new_user_name", "txt_new_password"})
+        on(field, EventType::KeyDown, [this, field](Event& e) {
+            if (e.keyCode != keys::Enter) return;
+            e.keyCode = 0;
+            if (std::string_view(field) == "txt_password" && text("cmdchgpass") == kChangeCaption)
+                okClick();
+            else
+                focusNext();
+        });
     on("cmdokcan", EventType::Click, [this](Event& e) {
         if (e.index == 0)
             okClick();

@@ -35,6 +35,19 @@ TEST(Login, AValidUserIsRecordedAndTheScreenHides) {
     EXPECT_TRUE(d.ui.boxes().empty());
 }
 
+TEST(Login, EnterMovesToThePasswordAndThenLogsIn) {
+    LoginDesk d;
+    d.login.setFocus("txt_user_name");
+    d.login.setText("txt_user_name", "RAVI");
+    test::pressKey(d.login, "txt_user_name", keys::Enter);
+    EXPECT_EQ(d.login.focused(), "txt_password");
+    EXPECT_EQ(d.app.session().g_UserName, "");
+    d.login.setText("txt_password", "r1");
+    test::pressKey(d.login, "txt_password", keys::Enter);
+    EXPECT_EQ(d.app.session().g_UserName, "RAVI");
+    EXPECT_FALSE(d.login.visible());
+}
+
 TEST(Login, RefusalsSayWhoIsNotValidAndLogNobodyIn) {
     struct Case {
         const char *user, *password, *title, *text; // the box's text as it begins
