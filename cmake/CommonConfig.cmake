@@ -5,6 +5,12 @@ add_library(tallimark_options INTERFACE)
 target_compile_features(tallimark_options INTERFACE cxx_std_20)
 target_compile_options(tallimark_options INTERFACE
     -Wall -Wextra -Wpedantic -ffp-contract=off -fno-fast-math)
+# Fuzzing instruments every library for coverage; the targets themselves add the fuzzer's main.
+if(TALLIMARK_FUZZ)
+    target_compile_options(tallimark_options INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer)
+    target_link_options(tallimark_options INTERFACE -fsanitize=address,undefined)
+endif()
 if(TALLIMARK_SANITIZE)
     target_compile_options(tallimark_options INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer)
     target_link_options(tallimark_options INTERFACE -fsanitize=address,undefined)
