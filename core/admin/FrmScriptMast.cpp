@@ -8,7 +8,8 @@
 namespace tallimark {
 
 namespace {
-// Fields that a statement takes as they stand and that an empty entry would break: "0" instead.
+// Fields stored as "0" when left empty. The figures among them reach the statement through num(),
+// so a typed text that is no number fails the statement instead of changing what it means.
 const char* const kZeroWhenEmpty[] = {"TxtRate", "TxtExpLimit", "TxtLastWeek", "TxtFWeek", "TxtContract"};
 } // namespace
 
@@ -80,8 +81,9 @@ bool FrmScriptMast::addRecord() {
         return "INSERT INTO SCRIPTMAST(SCRCODE, SCRNAME, DESCR, RateDiff, Limit_Cr, First_Gamma, "
                "Week_Gamma,Field2,Field1) VALUES(" +
                q(text("TxtSptCode")) + ", " + q(text("TxtSptName")) + ", " + q(text("TxtDesc")) + ", " +
-               text("TxtRate") + ", " + text("TxtExpLimit") + ", " + q(text("TxtFWeek")) + ", " +
-               q(text("TxtLastWeek")) + ", " + text("TxtContract") + ", " + q(text("TxtEx_Margin")) + ")";
+               num(text("TxtRate")) + ", " + num(text("TxtExpLimit")) + ", " + q(text("TxtFWeek")) + ", " +
+               q(text("TxtLastWeek")) + ", " + num(text("TxtContract")) + ", " + q(text("TxtEx_Margin")) +
+               ")";
     });
 }
 
@@ -89,9 +91,9 @@ bool FrmScriptMast::updateRecord() {
     fillEmptyNumbers();
     return runStatement([this] {
         return "UPDATE SCRIPTMAST SET SCRNAME = " + q(text("TxtSptName")) +
-               ", DESCR = " + q(text("TxtDesc")) + ", RateDiff = " + text("TxtRate") +
-               ", Limit_Cr = " + text("TxtExpLimit") + ", First_Gamma = " + q(text("TxtFWeek")) +
-               ", Week_Gamma = " + q(text("TxtLastWeek")) + ", Field2 = " + text("TxtContract") +
+               ", DESCR = " + q(text("TxtDesc")) + ", RateDiff = " + num(text("TxtRate")) +
+               ", Limit_Cr = " + num(text("TxtExpLimit")) + ", First_Gamma = " + q(text("TxtFWeek")) +
+               ", Week_Gamma = " + q(text("TxtLastWeek")) + ", Field2 = " + num(text("TxtContract")) +
                ", field1 = " + q(text("TxtEx_Margin")) + " WHERE SCRCODE = " + q(text("TxtSptCode"));
     });
 }

@@ -1,6 +1,7 @@
 #include "frame/Store.h"
 
 #include "frame/SqlDialect.h"
+#include "frame/VbNumber.h"
 
 #include <cctype>
 #include <list>
@@ -20,6 +21,15 @@ std::string q(std::string_view text) {
     s += text;
     s += '\'';
     return s;
+}
+
+std::string num(std::string_view text) {
+    try {
+        return NumText(CDbl(text));
+    } catch (const VbError&) {
+        throw StoreError(SQLITE_ERROR,
+                         "Syntax error in number in query expression '" + std::string(text) + "'.");
+    }
 }
 
 Recordset::Recordset(std::vector<std::string> names, std::vector<std::vector<Value>> rows)

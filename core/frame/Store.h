@@ -25,6 +25,12 @@ public:
 // no text can change what a statement means.
 std::string q(std::string_view text);
 
+// Its twin for numbers: every value a statement takes as a number passes here. Only a number's
+// text (what CDbl reads) is taken, and the number's own text is written, so nothing typed can
+// change what a statement means. Anything else, a number past the range of a double included,
+// raises the store's error the statement would have raised on it.
+std::string num(std::string_view text);
+
 // The rows of one query, read at once; moving and reading as a recordset does.
 class Recordset {
 public:

@@ -142,6 +142,23 @@ TEST(StoreDialect, AQuoteInATextBreaksOnlyItsOwnStatement) {
     EXPECT_EQ(q("NIFTY"), "'NIFTY'");
 }
 
+TEST(StoreDialect, ANumberReachesAStatementOnlyAsItsOwnText) {
+    const std::pair<const char*, const char*> taken[] = {
+        {"12", "12"}, {" 1,000.50 ", "1000.5"}, {"-0", "0"}, {"1e5", "100000"}, {"2.5D-3", "0.0025"}};
+    for (const auto& [typed, written] : taken)
+        EXPECT_EQ(num(typed), written) << typed;
+    for (const char* hostile : {"", "abc", "1 2", "0, SCRNAME = 'PWNED' --", "(select Pwd from Users)", "1/*",
+                                "1e400", "0x10", "1;", "--1"}) {
+        try {
+            num(hostile);
+            ADD_FAILURE() << hostile;
+        } catch (const StoreError& e) {
+            EXPECT_EQ(e.number(), 1);
+            EXPECT_NE(std::string(e.what()).find(hostile), std::string::npos);
+        }
+    }
+}
+
 TEST(StoreDialect, StoreErrorsKeepTheEnginesCodeAndText) {
     test::Desk desk;
     try {
