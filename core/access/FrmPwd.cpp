@@ -70,14 +70,19 @@ void FrmPwdBase::rejectLogin(const char* title, bool clearBoth) {
     setFocus("txt_user_name");
 }
 
+std::string FrmPwdBase::provenAccount() {
+    // Names compare without case as every text of the store does; a password only exactly, so
+    // that "TALLIMARK" does not open the account of "tallimark".
+    return "Select * from Users Where UserNm = " + q(Trim(text("txt_user_name"))) +
+           " and Pwd = " + q(Trim(text("txt_password"))) + " COLLATE BINARY";
+}
+
 void FrmPwdBase::okClick() {
     if (text("txt_user_name").empty()) {
         rejectLogin("Incorrect Login", false);
         return;
     }
-    Recordset rs =
-        app().store().query("Select * from Users Where UserNm = " + q(Trim(text("txt_user_name"))) +
-                            " and Pwd = " + q(Trim(text("txt_password"))));
+    Recordset rs = app().store().query(provenAccount());
     if (!rs.eof()) {
         Session& s = app().session();
         s.g_UserCode = Trim(rs["UserCd"].textOrEmpty());
@@ -97,9 +102,7 @@ void FrmPwdBase::showNewFields(bool shown) {
 
 void FrmPwdBase::changePasswordClick() {
     try {
-        Recordset rs =
-            app().store().query("Select * from Users Where UserNm = " + q(Trim(text("txt_user_name"))) +
-                                " and Pwd=" + q(Trim(text("txt_password"))));
+        Recordset rs = app().store().query(provenAccount());
         if (!rs.eof()) {
             setEnabled("cmdokcan(0)", false);
             setEnabled("cmdokcan(1)", false);

@@ -15,6 +15,8 @@ protected:
     FrmPwdBase(App& app, const char* name, bool readsUserName, int height, int width);
 
 private:
+    // The query that finds the account the name and password fields prove.
+    std::string provenAccount();
     void okClick();
     void changePasswordClick();
     void setPasswordClick();

@@ -55,6 +55,7 @@ TEST(Login, RefusalsSayWhoIsNotValidAndLogNobodyIn) {
     } cases[] = {
         {"", "secret", "Incorrect Login", "You Are Not a Valid User", ""},
         {"ADMIN", "wrong", "Invalid Login", "You Are Not a Valid User", ""},
+        {"ADMIN", "TALLIMARK", "Invalid Login", "You Are Not a Valid User", ""},
         // A quote breaks the statement: the run-time box, and the name stays as typed.
         {"ADMIN", "x' or '1'='1", kAppTitle, "Run-time error", "ADMIN"},
     };
@@ -101,11 +102,13 @@ TEST(Login, ChangingAPasswordNeedsAProvenAccountAndNamesAnyAccount) {
 
 TEST(Login, ChangeRefusedForAWrongPasswordOrAnUnknownNewName) {
     LoginDesk d;
-    d.login.setText("txt_user_name", "ADMIN");
-    d.login.setText("txt_password", "nope");
-    d.login.fire("cmdchgpass", EventType::Click);
-    EXPECT_EQ(d.login.text("cmdchgpass"), "C&hange password");
-    EXPECT_EQ(d.boxTexts(), std::vector<std::string>{"You Are Not a Valid User"});
+    for (const char* wrong : {"nope", "Tallimark"}) {
+        d.login.setText("txt_user_name", "ADMIN");
+        d.login.setText("txt_password", wrong);
+        d.login.fire("cmdchgpass", EventType::Click);
+        EXPECT_EQ(d.login.text("cmdchgpass"), "C&hange password");
+        EXPECT_EQ(d.boxTexts().back(), "You Are Not a Valid User");
+    }
 
     d.login.setText("txt_user_name", "ADMIN");
     d.login.setText("txt_password", "tallimark");
