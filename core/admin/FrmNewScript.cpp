@@ -7,6 +7,7 @@
 #include "frame/ComProc.h"
 #include "frame/VbFormat.h"
 #include "frame/VbNumber.h"
+#include "sheet/FrmSettingStrike.h"
 
 #include <algorithm>
 
@@ -258,6 +259,16 @@ void FrmNewScript::CmdOk_Click() {
         setFocus("TxtDesc");
         return;
     }
+
+    // The ladder's bound holds for a new sheet as for F7 on an open one.
+    for (const char* field : {"TxtAStrike", "TxtBStrike"})
+        if (IsNumeric(text(field)) && CDbl(text(field)) > FrmSettingStrike::kMaxStrikesASide) {
+            ui().msgBox({"The ladder takes at most " + std::to_string(FrmSettingStrike::kMaxStrikesASide) +
+                             " strikes above and below the middle strike.",
+                         "Wrong Input ", MsgButtons::Ok, MsgIcon::Critical});
+            setFocus(field);
+            return;
+        }
 
     Session& s = app().session();
     const VbDate today = app().clock().today();

@@ -37,9 +37,15 @@ void FrmSettingStrike::showCurrent(int16_t above, int16_t below) {
     setText("Label2", std::to_string(CurBelow) + " Number Of Strike Below   ");
 }
 
-bool FrmSettingStrike::numericOrRefuse(const std::string& field, const char* message) {
-    if (IsNumeric(text(field))) return true;
-    ui().msgBox({message, "Wrong Input ", MsgButtons::Ok, MsgIcon::Critical});
+bool FrmSettingStrike::countOrRefuse(const std::string& field, const char* message, const char* side) {
+    std::string refusal;
+    if (!IsNumeric(text(field)))
+        refusal = message;
+    else if (CDbl(text(field)) > kMaxStrikesASide)
+        refusal =
+            " The ladder takes at most " + std::to_string(kMaxStrikesASide) + " strikes " + side + " ...";
+    if (refusal.empty()) return true;
+    ui().msgBox({refusal, "Wrong Input ", MsgButtons::Ok, MsgIcon::Critical});
     setText(field, "0");
     setFocus(field);
     SelectAll(*this, field);
@@ -47,8 +53,9 @@ bool FrmSettingStrike::numericOrRefuse(const std::string& field, const char* mes
 }
 
 void FrmSettingStrike::ValidateForm(bool& valid) {
-    valid = numericOrRefuse("TxtAbove", " Please Enter Numeric Value For Number Of Strike Above ...") &&
-            numericOrRefuse("TxtBelowe", " Please Enter Numeric Value For Number Of Strike Below ...");
+    valid =
+        countOrRefuse("TxtAbove", " Please Enter Numeric Value For Number Of Strike Above ...", "above") &&
+        countOrRefuse("TxtBelowe", " Please Enter Numeric Value For Number Of Strike Below ...", "below");
 }
 
 void FrmSettingStrike::command1Click() {

@@ -21,7 +21,15 @@ void RiskSheet::SetStrikes() {
     const bool accepted = dialog.Accepted;
     const long NumAbove = dialog.NumAbove, NumBelow = dialog.NumBelow;
     screens.unload(FrmSettingStrike::kName);
-    if (accepted) AddStrikesInGrid(NumAbove, NumBelow, Lowest, Highest, Step);
+    if (!accepted) return;
+    const long strikes = (lastLadderRow() - 1) / 2, most = 2 * FrmSettingStrike::kMaxStrikesASide + 1;
+    if (strikes + NumAbove + NumBelow > most) {
+        ui().msgBox({"The ladder takes at most " + std::to_string(most) + " strikes and holds " +
+                         std::to_string(strikes) + " now: no strikes were added.",
+                     "Wrong Input ", MsgButtons::Ok, MsgIcon::Critical});
+        return;
+    }
+    AddStrikesInGrid(NumAbove, NumBelow, Lowest, Highest, Step);
 }
 
 void RiskSheet::AddStrikesInGrid(long NumAbove, long NumBelow, int Lowest, int Highest, int Step) {

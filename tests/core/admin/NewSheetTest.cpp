@@ -191,6 +191,9 @@ TEST(NewSheet, RefusalsNameTheFaultAndLeaveTheStoreAsItWas) {
         {"description taken", "RILK2026", "TAKEN", "5",
          "Script Already Exists, Please Change the description", "Duplicate Entries", "TxtDesc"},
         {"no strikes above", "RILK2026", "NEW For a", "", "Failed in Adding Record", "Error", nullptr},
+        {"three million strikes", "RILK2026", "NEW For a", "3000000",
+         "The ladder takes at most 1000 strikes above and below the middle strike.", "Wrong Input ",
+         "TxtAStrike"},
     };
     for (const Case& c : cases) {
         NewSheetDesk d;

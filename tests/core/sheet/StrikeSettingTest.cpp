@@ -61,6 +61,11 @@ TEST(StrikeSetting, CancelledOrRefusedEntriesLeaveTheLadder) {
         {"2", "1", "Command2", nullptr},
         {"abc", "1", "Command1", " Please Enter Numeric Value For Number Of Strike Above ..."},
         {"1", "x", "Command1", " Please Enter Numeric Value For Number Of Strike Below ..."},
+        // The ladder is bounded a side, and in all: nothing changes beyond.
+        {"1001", "1", "Command1", " The ladder takes at most 1000 strikes above ..."},
+        {"1", "1073741824", "Command1", " The ladder takes at most 1000 strikes below ..."},
+        {"1000", "997", "Command1",
+         "The ladder takes at most 2001 strikes and holds 5 now: no strikes were added."},
         // Both counts 0: the dialog stays open; here nobody answers again, so it is left as is.
         {"0", "0", "Command1", nullptr},
     };
