@@ -2,6 +2,7 @@
 
 #include "frame/VbError.h"
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <cmath>
@@ -70,10 +71,12 @@ bool allDigits(std::string_view s) {
     return true;
 }
 
+// Digits as a number, held at a million: no part of a date runs that far, and a long run of
+// typed digits must not overflow.
 int toInt(std::string_view s) {
     int v = 0;
     for (char c : s)
-        v = v * 10 + (c - '0');
+        v = std::min(v * 10 + (c - '0'), 1000000);
     return v;
 }
 
@@ -109,6 +112,12 @@ std::optional<int> parseTime(std::string_view t) {
 }
 
 } // namespace
+
+VbDate::VbDate(double serial) : serial_(serial) {
+    constexpr double kFirst = -657434; // 1-Jan-100
+    constexpr double kEnd = 2958466;   // 1-Jan-10000
+    if (!(serial >= kFirst && serial < kEnd)) vberr::raise(vberr::Overflow);
+}
 
 VbDate VbDate::fromYmd(int year, int month, int day) {
     // DateSerial lets months and days run over into the next or previous ones.
@@ -196,7 +205,7 @@ std::optional<VbDate> parseDate(std::string_view text) {
     } else {
         return std::nullopt;
     }
-    if (!validDay(y, m, d)) return std::nullopt;
+    if (y < 100 || y > 9999 || !validDay(y, m, d)) return std::nullopt;
     return VbDate(VbDate::fromYmd(y, m, d).serial() + seconds / 86400.0);
 }
 

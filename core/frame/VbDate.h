@@ -10,7 +10,9 @@ namespace tallimark {
 class VbDate {
 public:
     VbDate() = default;
-    explicit VbDate(double serial) : serial_(serial) {}
+    // A serial outside 1-Jan-100 to 31-Dec-9999 (or no number at all) raises Overflow: the date
+    // rules hold nothing beyond, and a date is never shown that they cannot write.
+    explicit VbDate(double serial);
     static VbDate fromYmd(int year, int month, int day); // month and day may run over, as DateSerial
     static VbDate fromYmdHms(int year, int month, int day, int hour, int minute, int second);
 

@@ -2,6 +2,7 @@
 #include "frame/VbError.h"
 #include "frame/VbFormat.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 using namespace tallimark;
@@ -15,7 +16,8 @@ TEST(DateRules, TheDateTextsTheSystemWritesAllReadBack) {
     EXPECT_EQ(CDate("23-11-2026 10:15"), VbDate::fromYmdHms(2026, 11, 23, 10, 15, 0));
     EXPECT_EQ(CDate("01-Jan-45"),
               VbDate::fromYmd(1945, 1, 1)); // two-digit years from 30 are the last century
-    for (const char* bad : {"", "31-Nov-2026", "29-Feb-2026", "23-Nvb-2026", "2026", "abc", "23-11"})
+    for (const char* bad : {"", "31-Nov-2026", "29-Feb-2026", "23-Nvb-2026", "2026", "abc", "23-11",
+                            "0099-12-31", "01-01-10000", "01-01-99999999999999"})
         EXPECT_FALSE(IsDate(bad)) << bad;
     try {
         CDate("32-Jan-2026");
@@ -23,6 +25,19 @@ TEST(DateRules, TheDateTextsTheSystemWritesAllReadBack) {
     } catch (const VbError& e) {
         EXPECT_EQ(e.number(), vberr::TypeMismatch);
     }
+}
+
+TEST(DateRules, ADateBeyondTheRulesOverflowsInsteadOfShowing) {
+    EXPECT_EQ(DateText(VbDate(-657434)), "01-01-0100");
+    EXPECT_EQ(DateText(VbDate(2958465.5)), "31-12-9999 12:00:00");
+    for (double serial : {-657434.5, 2958466.0, 1e15, -1e15, std::nan("")})
+        try {
+            (void)VbDate(serial);
+            ADD_FAILURE() << serial;
+        } catch (const VbError& e) {
+            EXPECT_EQ(e.number(), vberr::Overflow);
+        }
+    EXPECT_THROW(VbDate::fromYmd(9999, 13, 1), VbError);
 }
 
 TEST(DateRules, FormatPatterns) {
