@@ -4,6 +4,9 @@
 #include "frame/VbNumber.h"
 
 #include <cmath>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace tallimark {
 
@@ -94,8 +97,12 @@ void FrmCalc::compute_derivatives() {
         {"Text6", Call},       {"Text7", Put},       {"Text8", callDelta}, {"Text9", putDelta},
         {"Text10", callTheta}, {"Text11", putTheta}, {"Text13", callRho},  {"Text14", putRho},
         {"Text12", vega},      {"Text15", gamma}};
+    // The texts too: a figure too large to write fails before any output changes.
+    std::vector<std::pair<const char*, std::string>> texts;
     for (const auto& [field, value] : outputs)
-        setText(field, NumText(roundToPennies(value)));
+        texts.emplace_back(field, NumText(roundToPennies(value)));
+    for (auto& [field, text] : texts)
+        setText(field, std::move(text));
 }
 
 } // namespace tallimark
