@@ -17,11 +17,14 @@ Store& App::store() {
 }
 
 void App::openStore() {
+    store_.reset();
+    if (!lock_) lock_ = std::make_unique<StoreLock>(storeFile());
     store_ = Store::open(storeFile());
 }
 
 void App::closeStore() {
     store_.reset();
+    lock_.reset();
 }
 
 void App::end() {

@@ -4,6 +4,7 @@
 #include "frame/Clock.h"
 #include "frame/Screens.h"
 #include "frame/Store.h"
+#include "frame/StoreLock.h"
 #include "frame/Ui.h"
 #include "frame/VbDate.h"
 
@@ -50,6 +51,7 @@ public:
     // g_Conn: raises the store's error when it is not open.
     Store& store();
     bool storeOpen() const { return store_ != nullptr; }
+    // Opens the store for this process alone: another process on it is refused here.
     void openStore();
     void closeStore();
 
@@ -61,6 +63,7 @@ private:
     Clock& clock_;
     std::filesystem::path dataDir_;
     Session session_;
+    std::unique_ptr<StoreLock> lock_; // outlives the connection it guards
     std::unique_ptr<Store> store_;
     Screens screens_;
 };

@@ -114,6 +114,27 @@ Value readColumn(sqlite3_stmt* stmt, int i, bool dateColumn) {
     }
 }
 
+[[noreturn]] void notOurs(const std::filesystem::path& file, const std::string& why) {
+    throw StoreError(SQLITE_NOTADB, "The file " + file.string() + " is not a store of Tallimark (" + why +
+                                        "). Only tallimark-batch --new-store makes a store.");
+}
+
+// Why an open file is not one of our stores, or "" when it is: it must be a database holding the
+// Users table. Read before anything is written, so that a foreign file is left as it was.
+std::string foreignReason(sqlite3* db) {
+    sqlite3_stmt* stmt = nullptr;
+    if (sqlite3_prepare_v2(
+            db, "select 1 from sqlite_master where type = 'table' and name = 'Users' collate nocase", -1,
+            &stmt, nullptr) != SQLITE_OK)
+        return sqlite3_errmsg(db);
+    const int rc = sqlite3_step(stmt);
+    std::string why = rc == SQLITE_ROW    ? ""
+                      : rc == SQLITE_DONE ? "it has no Users table"
+                                          : sqlite3_errmsg(db);
+    sqlite3_finalize(stmt);
+    return why;
+}
+
 sqlite3* openFile(const std::filesystem::path& file, int flags) {
     sqlite3* db = nullptr;
     if (sqlite3_open_v2(file.c_str(), &db, flags, nullptr) != SQLITE_OK) {
@@ -123,6 +144,11 @@ sqlite3* openFile(const std::filesystem::path& file, int flags) {
         throw StoreError(code, msg);
     }
     sqlite3_busy_timeout(db, 2000);
+    if (!(flags & SQLITE_OPEN_CREATE))
+        if (const std::string why = foreignReason(db); !why.empty()) {
+            sqlite3_close(db);
+            notOurs(file, why);
+        }
     // A commit appends to the write-ahead log and flushes it: one flush, and a reader never
     // waits for a writer.
     sqlite3_exec(db, "PRAGMA journal_mode=WAL; PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
@@ -207,6 +233,8 @@ std::unique_ptr<Store> Store::open(const std::filesystem::path& file) {
                          "[Microsoft][ODBC Driver Manager] Data source name not found and no default driver "
                          "specified (" +
                              file.string() + ")");
+    // SQLite would take an empty file for a new database and write one into it.
+    if (std::filesystem::file_size(file) == 0) notOurs(file, "it is empty");
     return std::unique_ptr<Store>(new Store(openFile(file, SQLITE_OPEN_READWRITE)));
 }
 
