@@ -62,7 +62,14 @@ bool ScriptDriver::step() {
         if (!line.empty() && line.back() == '\r') line.pop_back();
         const size_t first = line.find_first_not_of(' ');
         if (first == std::string::npos || line[first] == '#') continue;
-        perform(line.substr(first));
+        try {
+            perform(line.substr(first));
+        } catch (const ProgramEnd&) {
+            throw;
+        } catch (const std::exception& e) {
+            // What the line asked of a screen outside any event: no handler's to trap.
+            throw ScriptError(lineNo_, e.what());
+        }
         app_.screens().collect();
         return true;
     }
@@ -83,6 +90,20 @@ std::string ScriptDriver::controlOf(const std::string& target) {
     const size_t dot = target.find('.');
     if (dot == std::string::npos) throw ScriptError(lineNo_, "expected FORM.CONTROL, got " + target);
     return target.substr(dot + 1);
+}
+
+void ScriptDriver::tickRow(Form& form, const std::string& list, int row, bool ticked) {
+    Grid& grid = form.grid(list);
+    if (!grid.checkBoxes) throw ScriptError(lineNo_, list + " on " + form.name() + " has no check boxes");
+    if (row < 1 || row > grid.maxRows()) throw ScriptError(lineNo_, "no row " + std::to_string(row));
+    // The window's tick: the box changes, then the click on its cell reaches the screen.
+    grid.setChecked(row, ticked);
+    grid.activeRow = row;
+    grid.activeCol = 1;
+    Event click{EventType::Click};
+    click.row = row;
+    click.col = 1;
+    form.fire(list, click);
 }
 
 void ScriptDriver::perform(const std::string& line) {
@@ -159,8 +180,13 @@ void ScriptDriver::perform(const std::string& line) {
         Form& form = formOf(target);
         const std::string control = controlOf(target);
         needControl(form, control);
-        form.setValue(control, arg("0 or 1") != "0");
-        form.flush();
+        if (form.hasControl(control)) {
+            form.setValue(control, arg("0 or 1") != "0");
+            form.flush();
+        } else {
+            const int row = toInt(arg("row"), lineNo_);
+            tickRow(form, control, row, arg("0 or 1") != "0");
+        }
     } else if (verb == "cell" || verb == "gridclick") {
         Form& form = formOf(target);
         Grid* grid = nullptr;

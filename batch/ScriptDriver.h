@@ -5,7 +5,6 @@
 
 #include <istream>
 #include <ostream>
-#include <stdexcept>
 #include <string>
 
 namespace tallimark {
@@ -13,11 +12,16 @@ namespace tallimark {
 class App;
 class Form;
 
-// A line the driver cannot carry out: the script stops there.
-class ScriptError : public std::runtime_error {
+// A line the driver cannot carry out: the script stops there, at whatever depth the line ran,
+// inside a modal screen too. Not a std::exception on purpose: the screens' traps catch those and
+// go on with a box, and none of them may swallow a fault of the script.
+class ScriptError {
 public:
-    ScriptError(int line, const std::string& what)
-        : std::runtime_error("line " + std::to_string(line) + ": " + what) {}
+    ScriptError(int line, const std::string& what) : what_("line " + std::to_string(line) + ": " + what) {}
+    const char* what() const noexcept { return what_.c_str(); }
+
+private:
+    std::string what_;
 };
 
 class ScriptDriver {
@@ -34,6 +38,8 @@ private:
     void perform(const std::string& line);
     Form& formOf(const std::string& target);
     std::string controlOf(const std::string& target);
+    // Ticks or clears a row's check box as a click on it in the window does.
+    void tickRow(Form& form, const std::string& list, int row, bool ticked);
 
     App& app_;
     ScriptedUi& ui_;

@@ -1,5 +1,6 @@
 // The batch driver end to end: the real executable, a ready store and scripts of user actions.
 #include "BatchFixture.h"
+#include "frame/StoreLock.h"
 
 using tallimark::test::contains;
 using tallimark::test::Outcome;
@@ -64,11 +65,18 @@ TEST_F(BatchDesk, ScriptFaultsStopWithTheLineThatFailed) {
         {"open FrmNothing", "line 2: Object required: no screen named FrmNothing"},
         {"jump FrmCalc", "line 2: unknown action jump"},
         {"key FrmCalc.Text1 enter", "line 2: not a whole number: enter"},
+        // Inside a modal screen a fault stops the run as it does anywhere.
+        {"open FrmScriptMast\nclick FrmScriptMast.Cmd(5)\nclick FrmSeek.NoSuchButton",
+         "line 4: no control NoSuchButton on FrmSeek"},
+        {"set FrmNewMainScreen.ListView1 x", "line 2: Control 'ListView1' not found"},
+        {"check FrmNewMainScreen.ListView1 1 1", "line 2: no row 1"},
+        {"check FrmSeek.MSHFlexGrid1 1 1", "line 2: MSHFlexGrid1 on FrmSeek has no check boxes"},
     };
     for (const auto& c : cases) {
         const Outcome r = script(std::string("login ADMIN tallimark\n") + c.line + "\n");
         EXPECT_EQ(r.exitCode, 1) << c.line;
         EXPECT_TRUE(contains(r.all(), c.message)) << r.all();
+        EXPECT_FALSE(contains(r.all(), "Run-time error")) << r.all();
     }
     const Outcome unfinished = script("set FrmPwd1.txt_user_name ADMIN\n");
     EXPECT_EQ(unfinished.exitCode, 1);
@@ -82,4 +90,32 @@ TEST_F(BatchDesk, UsageAndStoreErrors) {
     const Outcome missing = run("--data " + (dir_ / "none").string() + " -");
     EXPECT_EQ(missing.exitCode, 1);
     EXPECT_TRUE(contains(missing.all(), "Error in Main Procedure: ")) << missing.all();
+}
+
+TEST_F(BatchDesk, ListRowsAreTickedAsTheWindowTicksThem) {
+    for (const char* sheet : {"'NIFTY', 'NIFTY DEC'", "'ACC', 'ACC DEC'"})
+        store()->execute(std::string("insert into Trans (InType, InSymbol, InDesc, Transdt) values ('F', ") +
+                         sheet + ", cdate('20-Nov-2026'))");
+    const Outcome r = script("login ADMIN tallimark\n"
+                             "menu MDIForm1.munopen\n"
+                             "check FrmNewMainScreen.ListView1 2 1\n"
+                             "dump FrmNewMainScreen\n"
+                             "click FrmNewMainScreen.Cmd(3)\n"
+                             "check FrmNewMainScreen.ListView1 1 0\n"
+                             "click FrmNewMainScreen.Command2\n");
+    ASSERT_EQ(r.exitCode, 0) << r.all();
+    EXPECT_TRUE(contains(r.dump("FrmNewMainScreen"), R"([{"text":"ACC","checked":true})")) << r.all();
+    // The tick's click chose the row, so Delete took the ticked sheet.
+    EXPECT_EQ(store()->query("select InSymbol from Trans")["InSymbol"].text(), "NIFTY");
+    EXPECT_TRUE(contains(r.lines.back(), "Please select the Scripts")) << r.all();
+}
+
+TEST_F(BatchDesk, AStoreServesOneProcessAtATime) {
+    auto held = std::make_unique<tallimark::StoreLock>(storeFile());
+    const Outcome refused = script("login ADMIN tallimark\n");
+    EXPECT_EQ(refused.exitCode, 1);
+    EXPECT_TRUE(contains(refused.all(), storeFile().string() + " is open in another Tallimark process"))
+        << refused.all();
+    held.reset();
+    EXPECT_EQ(script("login ADMIN tallimark\n").exitCode, 0);
 }
