@@ -271,4 +271,19 @@ WriteGroup::~WriteGroup() {
     if (working_) sqlite3_exec(store_.handle(), "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
 }
 
+AllOrNothing::AllOrNothing(Store& store) : store_(store) {
+    store_.executeNative("SAVEPOINT all_or_nothing");
+}
+
+void AllOrNothing::done() {
+    store_.executeNative("RELEASE all_or_nothing");
+    done_ = true;
+}
+
+AllOrNothing::~AllOrNothing() {
+    if (done_) return;
+    sqlite3_exec(store_.handle(), "ROLLBACK TO all_or_nothing", nullptr, nullptr, nullptr);
+    sqlite3_exec(store_.handle(), "RELEASE all_or_nothing", nullptr, nullptr, nullptr);
+}
+
 } // namespace tallimark

@@ -101,4 +101,20 @@ private:
     bool working_;
 };
 
+// One step whose statements stand or fall together (a delete and the insert that replaces what it
+// deleted): unless done() is reached, the step's own statements are undone as it ends, while those
+// of earlier steps stand. Nests in a write group, or opens a transaction of its own.
+class AllOrNothing {
+public:
+    explicit AllOrNothing(Store& store);
+    ~AllOrNothing();
+    AllOrNothing(const AllOrNothing&) = delete;
+    AllOrNothing& operator=(const AllOrNothing&) = delete;
+    void done();
+
+private:
+    Store& store_;
+    bool done_ = false;
+};
+
 } // namespace tallimark

@@ -70,6 +70,12 @@ bool RiskSheet::pricingInputsMissing() {
     return zeroOrEmpty("TxtMktPrice") || Trim(text("TxtDays")).empty() || zeroOrEmpty("TxtImpVol");
 }
 
+// The click asks more than the walks: "0" days leaves it too, so that an expiry-day load keeps
+// the points and hedges the sheet was saved with instead of writing the last day's 100 and 0.
+bool RiskSheet::clickInputsMissing() {
+    return zeroOrEmpty("TxtMktPrice") || zeroOrEmpty("TxtDays") || zeroOrEmpty("TxtImpVol");
+}
+
 pricing::StockInputs RiskSheet::stockInputs() {
     // The closed forms read the call volatility from its field; the put's is what the last walk
     // left, and none of the formulas read here uses it.
@@ -82,12 +88,19 @@ std::string RiskSheet::ledgerKey(const std::string& symbol, const std::string& d
 }
 
 std::string RiskSheet::sheetLedgerKey() {
-    const Session& s = app().session();
-    return ledgerKey(s.g_strSymbol, s.g_strDesc);
+    return ledgerKey(OwnSymbol, OwnDesc);
 }
 
 std::string RiskSheet::trimmedLedgerKey() {
-    return ledgerKey(Trim(text("TxtSymbol")), Trim(app().session().g_strDesc));
+    return ledgerKey(Trim(text("TxtSymbol")), Trim(OwnDesc));
+}
+
+void RiskSheet::makeCurrentSheet() {
+    // A screen never loaded has no sheet of its own to point at.
+    if (OwnSymbol.empty() && OwnDesc.empty()) return;
+    Session& s = app().session();
+    s.g_strSymbol = OwnSymbol;
+    s.g_strDesc = OwnDesc;
 }
 
 std::string RiskSheet::sqlNumber(const Value& value) {

@@ -72,8 +72,7 @@ void RiskSheet::AddStock(const std::string& Units, const std::string& Traded, co
 void RiskSheet::UpdateTracker() {
     trapped("UpdateTracker", [this] {
         Store& store = app().store();
-        const Session& s = app().session();
-        const std::string key = "[symbol] = " + q(Trim(s.g_strSymbol)) + " and [indesc] = " + q(s.g_strDesc);
+        const std::string key = "[symbol] = " + q(Trim(OwnSymbol)) + " and [indesc] = " + q(OwnDesc);
         WriteGroup group(store, WriteGroup::Rows::Working);
         // A flat series is left out: its rows keep the values of its last open moment, from
         // which its realised result is worked out.
@@ -92,11 +91,13 @@ void RiskSheet::ErrProcAddTracker() {
     try {
         Store& store = app().store();
         const std::string key = sheetLedgerKey();
-        WriteGroup group(store);
+        // The committed trades go only if their replacement is written.
+        AllOrNothing step(store);
         store.execute("delete from tracker where " + key);
         // The index sheet commits whatever the working ledger holds: it keeps one sheet's rows.
         store.execute(isIndex() ? "insert into tracker select * from dummytracker"
                                 : "insert into tracker select * from dummytracker where " + key);
+        step.done();
     } catch (const ProgramEnd&) {
         throw;
     } catch (const std::exception& e) {
