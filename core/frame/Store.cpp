@@ -222,6 +222,16 @@ void Store::execute(std::string_view sql) {
     }
 }
 
+void Store::execute(std::string_view sql, const std::vector<std::string>& texts) {
+    Statement st(db_, statements_->get(sql));
+    for (size_t i = 0; i < texts.size(); ++i)
+        if (sqlite3_bind_text(st.get(), static_cast<int>(i + 1), texts[i].data(),
+                              static_cast<int>(texts[i].size()), SQLITE_TRANSIENT) != SQLITE_OK)
+            fail(db_);
+    while (st.step()) {
+    }
+}
+
 Recordset Store::query(std::string_view sql) {
     Statement st(db_, statements_->get(sql));
     const int n = sqlite3_column_count(st.get());

@@ -71,6 +71,10 @@ public:
     Store& operator=(const Store&) = delete;
 
     void execute(std::string_view sql);
+    // The statement with texts in place of its "?" marks, each converted by the column it meets as
+    // the same text written into the statement would be. A statement run again and again with
+    // new figures (the refresh's writes) is then prepared once.
+    void execute(std::string_view sql, const std::vector<std::string>& texts);
     Recordset query(std::string_view sql);
     // Plain SQLite, not mapped: schema work of the store itself.
     void executeNative(std::string_view sql);

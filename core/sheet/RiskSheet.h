@@ -113,6 +113,11 @@ public:
                   const std::string& TradeTime = {});
     void UpdateTracker();
     void ErrProcAddTracker();
+    // The series (strike, CP) of the ledger rows under `where`, in the order "select distinct
+    // strike, CP" lists them, each with its summed units and `amount` as the statements
+    // "select sum(units) ... where <where> and strike = <strike> and CP =<CP>" would give them.
+    void seriesSums(const std::string& where, const std::string& amount,
+                    const std::function<void(double units, double amount)>& add);
 
     // The commands of the toolbar, by the key of their button ("Save", "Option", ...).
     void Toolbar1_ButtonClick(const std::string& key);
