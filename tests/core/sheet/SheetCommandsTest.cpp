@@ -77,6 +77,9 @@ TEST(SheetCommands, AltLettersOpenTheScreensOfTheirSheetKind) {
             CommandDesk::key(s, c.letter, keys::AltMask);
             EXPECT_TRUE(shownScreen(d.app, onIndex ? c.indexScreen : c.stockScreen)) << c.letter << onIndex;
             EXPECT_EQ(d.app.session().g_strSymbol, s.OwnSymbol) << "the screen opens on its own sheet";
+            d.app.session().g_strSymbol = "OTHER";
+            s.fire("Form", EventType::Activate);
+            EXPECT_EQ(d.app.session().g_strSymbol, s.OwnSymbol) << "and is current again when active";
         }
 }
 

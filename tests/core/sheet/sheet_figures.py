@@ -669,6 +669,9 @@ SHOWN = ["TxtDays", "TxtImpVolP", "TxtTotDel", "TxtTotGamma", "TxtTotVega", "Txt
          "TxtBalance", "TxtEx_Magin"]
 
 
+SCENARIO_INPUTS = ["TxtImpVolP", "TxtPremium", "TxtOptR", "TxtFutR"]
+
+
 def main():
     print("#pragma once")
     print("// The expected figures of the sheet tests, printed by sheet_figures.py beside this file:")
@@ -683,7 +686,8 @@ def main():
         s.refresh()
         print("")
         print("inline const std::pair<const char*, const char*> k%sFields[] = {" % name)
-        for n in SHOWN:
+        # The sheets added for the scenario walks show the figures the scenarios start from.
+        for n in SHOWN if name in ("StockLive", "StockExpiry", "IndexLive", "IndexExpiry") else SCENARIO_INPUTS:
             if n in s.f:
                 print('    {"%s", "%s"},' % (n, s.f[n]))
         print("};")
