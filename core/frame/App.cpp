@@ -1,6 +1,7 @@
 #include "frame/App.h"
 
 #include "frame/Form.h"
+#include "frame/Schema.h"
 
 namespace tallimark {
 
@@ -9,7 +10,9 @@ App::App(Ui& ui, Clock& clock, std::filesystem::path dataDir)
     session_.g_Today = clock_.now();
 }
 
-App::~App() = default;
+App::~App() {
+    saveWorkingLedger();
+}
 
 Store& App::store() {
     if (!store_) throw StoreError(3704, "Operation is not allowed when the object is closed.");
@@ -20,11 +23,23 @@ void App::openStore() {
     store_.reset();
     if (!lock_) lock_ = std::make_unique<StoreLock>(storeFile());
     store_ = Store::open(storeFile());
+    schema::keepWorkingLedgerInMemory(*store_);
 }
 
 void App::closeStore() {
+    saveWorkingLedger();
     store_.reset();
     lock_.reset();
+}
+
+void App::saveWorkingLedger() {
+    if (!store_) return;
+    try {
+        schema::saveWorkingLedger(*store_);
+    } catch (const VbError&) {
+        // The working rows are rebuilt from Tracker at the next load: a store that cannot take
+        // them back (locked, full) loses nothing committed.
+    }
 }
 
 void App::end() {

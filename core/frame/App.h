@@ -59,6 +59,9 @@ public:
     [[noreturn]] void end();
 
 private:
+    // The in-memory working ledger back into the file, so that the next process sees it.
+    void saveWorkingLedger();
+
     Ui& ui_;
     Clock& clock_;
     std::filesystem::path dataDir_;

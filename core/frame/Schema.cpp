@@ -214,22 +214,52 @@ const std::vector<Table>& tables() {
     return all;
 }
 
+// A table with its date handling; a temporary one lives in memory beside the file's, before it.
+std::string tableDdl(const Table& t, bool temporary = false) {
+    const std::string create = temporary ? "CREATE TEMP " : "CREATE ";
+    std::string ddl = create + "TABLE " + t.name + " (";
+    for (size_t i = 0; i < t.columns.size(); ++i)
+        ddl += (i ? ", " : "") + t.columns[i].name + " " + typeName(t.columns[i].type);
+    ddl += ");";
+    for (const Column& c : t.columns)
+        if (c.type == T::Date) {
+            std::string triggers = dateTriggers(t, c);
+            for (size_t at = 0; (at = triggers.find("CREATE TRIGGER", at)) != std::string::npos; at += 14)
+                triggers.replace(at, 7, create);
+            ddl += triggers;
+        }
+    return ddl;
+}
+
 void createTables(Store& store) {
     std::string ddl = "BEGIN;";
-    for (const Table& t : tables()) {
-        ddl += "CREATE TABLE " + t.name + " (";
-        for (size_t i = 0; i < t.columns.size(); ++i)
-            ddl += (i ? ", " : "") + t.columns[i].name + " " + typeName(t.columns[i].type);
-        ddl += ");";
-        for (const Column& c : t.columns)
-            if (c.type == T::Date) ddl += dateTriggers(t, c);
-    }
+    for (const Table& t : tables())
+        ddl += tableDdl(t);
     for (const char* k : kKeys)
         ddl += std::string(k) + ";";
     for (const char* i : kIndexes)
         ddl += std::string(i) + ";";
     ddl += "COMMIT;";
     store.executeNative(ddl);
+}
+
+void keepWorkingLedgerInMemory(Store& store) {
+    store.executeNative("PRAGMA temp_store=MEMORY");
+    for (const Table& t : tables())
+        if (t.name == "DummyTracker") {
+            AllOrNothing step(store);
+            store.executeNative(tableDdl(t, true) +
+                                "CREATE INDEX temp.DummyTracker_Sheet ON DummyTracker(Symbol, InDesc, CP, "
+                                "Strike);INSERT INTO temp.DummyTracker SELECT * FROM main.DummyTracker;");
+            step.done();
+        }
+}
+
+void saveWorkingLedger(Store& store) {
+    AllOrNothing step(store);
+    store.executeNative(
+        "DELETE FROM main.DummyTracker;INSERT INTO main.DummyTracker SELECT * FROM temp.DummyTracker;");
+    step.done();
 }
 
 void createReadyStore(const std::filesystem::path& file) {

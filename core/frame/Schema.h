@@ -34,5 +34,13 @@ void createTables(Store& store);
 // Makes a ready store file: the tables, the twelve months and the first user.
 void createReadyStore(const std::filesystem::path& file);
 
+// The working ledger DummyTracker lives in memory while the store is open: a table of the same
+// name, columns, dates and index that stands before the file's for every statement, filled from
+// the file's rows as the store opens. Every refresh rewrites the held series' rows, and a load
+// rebuilds them from Tracker anyway, so they need not reach the disk at each step.
+void keepWorkingLedgerInMemory(Store& store);
+// Writes the working ledger back to the file's table, as the store closes.
+void saveWorkingLedger(Store& store);
+
 } // namespace schema
 } // namespace tallimark

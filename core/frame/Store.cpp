@@ -250,6 +250,16 @@ void Store::execute(std::string_view sql) {
     }
 }
 
+void Store::execute(std::string_view sql, const std::vector<std::string>& texts) {
+    Statement st(db_, statements_->get(sql));
+    for (size_t i = 0; i < texts.size(); ++i)
+        if (sqlite3_bind_text(st.get(), static_cast<int>(i + 1), texts[i].data(),
+                              static_cast<int>(texts[i].size()), SQLITE_TRANSIENT) != SQLITE_OK)
+            fail(db_);
+    while (st.step()) {
+    }
+}
+
 Recordset Store::query(std::string_view sql) {
     Statement st(db_, statements_->get(sql));
     const int n = sqlite3_column_count(st.get());
@@ -297,6 +307,21 @@ WriteGroup::~WriteGroup() {
     if (sqlite3_get_autocommit(store_.handle()) == 0)
         sqlite3_exec(store_.handle(), "COMMIT", nullptr, nullptr, nullptr);
     if (working_) sqlite3_exec(store_.handle(), "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
+}
+
+AllOrNothing::AllOrNothing(Store& store) : store_(store) {
+    store_.executeNative("SAVEPOINT all_or_nothing");
+}
+
+void AllOrNothing::done() {
+    store_.executeNative("RELEASE all_or_nothing");
+    done_ = true;
+}
+
+AllOrNothing::~AllOrNothing() {
+    if (done_) return;
+    sqlite3_exec(store_.handle(), "ROLLBACK TO all_or_nothing", nullptr, nullptr, nullptr);
+    sqlite3_exec(store_.handle(), "RELEASE all_or_nothing", nullptr, nullptr, nullptr);
 }
 
 } // namespace tallimark

@@ -71,6 +71,10 @@ public:
     Store& operator=(const Store&) = delete;
 
     void execute(std::string_view sql);
+    // The statement with texts in place of its "?" marks, each converted by the column it meets as
+    // the same text written into the statement would be. A statement run again and again with
+    // new figures (the refresh's writes) is then prepared once.
+    void execute(std::string_view sql, const std::vector<std::string>& texts);
     Recordset query(std::string_view sql);
     // Plain SQLite, not mapped: schema work of the store itself.
     void executeNative(std::string_view sql);
@@ -99,6 +103,22 @@ private:
     Store& store_;
     bool active_;
     bool working_;
+};
+
+// One step whose statements stand or fall together (a delete and the insert that replaces what it
+// deleted): unless done() is reached, the step's own statements are undone as it ends, while those
+// of earlier steps stand. Nests in a write group, or opens a transaction of its own.
+class AllOrNothing {
+public:
+    explicit AllOrNothing(Store& store);
+    ~AllOrNothing();
+    AllOrNothing(const AllOrNothing&) = delete;
+    AllOrNothing& operator=(const AllOrNothing&) = delete;
+    void done();
+
+private:
+    Store& store_;
+    bool done_ = false;
 };
 
 } // namespace tallimark

@@ -73,6 +73,12 @@ public:
 
     // Load (the opening of a sheet named by g_strSymbol and g_strDesc).
     void DoInit() override;
+    // The sheet this screen opened, noted at its load: its own statements and its save use these,
+    // whatever the main screen's list has made the program-wide current sheet since.
+    std::string OwnSymbol, OwnDesc;
+    // Points g_strSymbol and g_strDesc back at this sheet, for the screens that read the current
+    // sheet: on activation and before a command opens another screen.
+    void makeCurrentSheet();
     void LoadSheet();
     void PopulateLView1();
     // Drops a sheet that was never saved: its Trans row and working rows.
@@ -107,6 +113,11 @@ public:
                   const std::string& TradeTime = {});
     void UpdateTracker();
     void ErrProcAddTracker();
+    // The series (strike, CP) of the ledger rows under `where`, in the order "select distinct
+    // strike, CP" lists them, each with its summed units and `amount` as the statements
+    // "select sum(units) ... where <where> and strike = <strike> and CP =<CP>" would give them.
+    void seriesSums(const std::string& where, const std::string& amount,
+                    const std::function<void(double units, double amount)>& add);
 
     // The commands of the toolbar, by the key of their button ("Save", "Option", ...).
     void Toolbar1_ButtonClick(const std::string& key);
@@ -161,15 +172,16 @@ protected:
 
     // Field text helpers.
     void set(const std::string& field, double value);
-    // A market input that is "0" or empty leaves the pricing walks.
+    // A market input that is "0" or empty leaves the pricing walks; the walks go on at "0" days.
     bool zeroOrEmpty(const std::string& field);
     bool pricingInputsMissing();
+    bool clickInputsMissing();
     // The stock formulas' inputs from the fields, for the row strike in hand.
     pricing::StockInputs stockInputs();
     // The sheet key as the ledger statements write it.
     std::string ledgerKey(const std::string& symbol, const std::string& desc) const;
-    std::string sheetLedgerKey();   // g_strSymbol, g_strDesc
-    std::string trimmedLedgerKey(); // Trim(TxtSymbol), Trim(g_strDesc)
+    std::string sheetLedgerKey();   // OwnSymbol, OwnDesc
+    std::string trimmedLedgerKey(); // Trim(TxtSymbol), Trim(OwnDesc)
     // The first row's column of a query; 0 when there is no row or the value is null.
     double sumOrZero(const std::string& sql, const char* column);
     // A figure field read as money: an empty field counts 0.
@@ -228,6 +240,7 @@ private:
     pricing::StockEngine stock_;
     pricing::IndexEngine index_;
     bool settingPicker_ = false;
+    bool loadFinished_ = false; // the last DoInit ran to its end: only then may the sheet be saved
 };
 
 // The loaded screen of a kind, for the screens that work on the open sheet.

@@ -110,7 +110,6 @@ void RiskSheet::ErrProcCalcBalance() {
 
 void RiskSheet::ThetaBal() {
     trapped("ThetaBal", [this] {
-        Store& store = app().store();
         const std::string key = trimmedLedgerKey();
         // The option rows valued a day on.
         const double TotLast =
@@ -120,15 +119,9 @@ void RiskSheet::ThetaBal() {
                   2);
         // A closed series adds its result at the next day's value.
         double ClosedAmt = 0;
-        Recordset series = store.query("select distinct strike, CP from dummytracker where " + key);
-        for (; !series.eof(); series.moveNext()) {
-            const std::string one = key + " and strike = " + sqlNumber(series["strike"]) +
-                                    " and CP =" + q(series["CP"].textOrEmpty());
-            if (sumOrZero("select sum(units) as TotUnits from dummytracker where " + one, "TotUnits") == 0)
-                ClosedAmt += sumOrZero(
-                    "select sum(units*DumThVal-units*traded) as TotAmt from dummytracker where " + one,
-                    "TotAmt");
-        }
+        seriesSums(key, "units*DumThVal-units*traded", [&](double units, double amount) {
+            if (units == 0) ClosedAmt += amount;
+        });
         const double Tomorrow = amount("TxtComm") + amount("TxtPremium") + amount("TxtCashU") +
                                 amount("TxtCashR") + amount("TxtFutU") + amount("TxtFutR") + TotLast +
                                 ClosedAmt;

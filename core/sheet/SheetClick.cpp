@@ -9,7 +9,7 @@ namespace tallimark {
 // The click prices the row; the column clicked plays no part.
 void RiskSheet::va1_Click(int /*col*/, int row) {
     trapped("va1_Click", [this, row] {
-        if (pricingInputsMissing()) return;
+        if (clickInputsMissing()) return;
         Grid& g = va1();
         g.activeRow = row;
         CurStrike = CDbl(cell(row, 1));
@@ -79,8 +79,7 @@ void RiskSheet::writeHedges(int row, bool callRow, const RowGreeks& greeks) {
 
 std::string RiskSheet::GetAvgVol() {
     Recordset rs = app().store().query("Select Round(Avg(field2),2) as avgVol From DummyTracker where " +
-                                       ledgerKey(app().session().g_strSymbol, app().session().g_strDesc) +
-                                       " and strike = " + NumText(CurStrike) +
+                                       sheetLedgerKey() + " and strike = " + NumText(CurStrike) +
                                        " and cp = " + q(cell(va1().activeRow, 2)) + " ");
     const Value& avg = rs["avgVol"];
     if (avg.isNull()) {

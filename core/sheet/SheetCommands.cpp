@@ -106,6 +106,9 @@ void RiskSheet::keyPreview(Event& e) {
 }
 
 void RiskSheet::Toolbar1_ButtonClick(const std::string& key) {
+    // The screens a command opens read the program-wide current sheet: this one, whatever row of
+    // the main screen's list was clicked since it opened.
+    makeCurrentSheet();
     if (key == "Save")
         SaveData();
     else if (key == "Option")
@@ -217,6 +220,13 @@ void RiskSheet::openCommandScreen(const std::string& key) {
 }
 
 bool RiskSheet::closeRefused() {
+    if (!loadFinished_) {
+        // Nothing to ask: the sheet cannot be saved, and nothing of it is touched on the way out.
+        ui().msgBox({"This sheet did not finish loading and was not saved.", "Exit", MsgButtons::Ok,
+                     MsgIcon::Information});
+        hide();
+        return true;
+    }
     BusyScope busy(ui());
     std::optional<MsgAnswer> answer;
     // Only a sheet whose delta-neutral figure and balance both moved since the save is asked about.

@@ -70,6 +70,12 @@ bool RiskSheet::pricingInputsMissing() {
     return zeroOrEmpty("TxtMktPrice") || Trim(text("TxtDays")).empty() || zeroOrEmpty("TxtImpVol");
 }
 
+// The click asks more than the walks: "0" days leaves it too, so that an expiry-day load keeps
+// the points and hedges the sheet was saved with instead of writing the last day's 100 and 0.
+bool RiskSheet::clickInputsMissing() {
+    return zeroOrEmpty("TxtMktPrice") || zeroOrEmpty("TxtDays") || zeroOrEmpty("TxtImpVol");
+}
+
 pricing::StockInputs RiskSheet::stockInputs() {
     // The closed forms read the call volatility from its field; the put's is what the last walk
     // left, and none of the formulas read here uses it.
@@ -82,16 +88,47 @@ std::string RiskSheet::ledgerKey(const std::string& symbol, const std::string& d
 }
 
 std::string RiskSheet::sheetLedgerKey() {
-    const Session& s = app().session();
-    return ledgerKey(s.g_strSymbol, s.g_strDesc);
+    return ledgerKey(OwnSymbol, OwnDesc);
 }
 
 std::string RiskSheet::trimmedLedgerKey() {
-    return ledgerKey(Trim(text("TxtSymbol")), Trim(app().session().g_strDesc));
+    return ledgerKey(Trim(text("TxtSymbol")), Trim(OwnDesc));
+}
+
+void RiskSheet::makeCurrentSheet() {
+    // A screen never loaded has no sheet of its own to point at.
+    if (OwnSymbol.empty() && OwnDesc.empty()) return;
+    Session& s = app().session();
+    s.g_strSymbol = OwnSymbol;
+    s.g_strDesc = OwnDesc;
 }
 
 std::string RiskSheet::sqlNumber(const Value& value) {
     return value.isNull() ? "Null" : NumText(value.number());
+}
+
+void RiskSheet::seriesSums(const std::string& where, const std::string& amount,
+                           const std::function<void(double units, double amount)>& add) {
+    // One grouped walk of the sheet's index stands for two statements per series: the index gives
+    // the groups in the order the distinct series come, and each group's rows in the order its
+    // own statement sums them. A strike whose number text names another strike (beyond 15
+    // digits), or a series without a side, is summed by those statements as written.
+    Recordset rs =
+        app().store().query("select strike, CP, sum(units) as TotUnits, sum(" + amount +
+                            ") as TotAmt from dummytracker where " + where + " group by CP, strike");
+    for (; !rs.eof(); rs.moveNext()) {
+        const Value& strike = rs["strike"];
+        if (strike.isNull()) {
+            add(0, 0); // "strike = Null" matches no row
+        } else if (!rs["CP"].isNull() && CDbl(sqlNumber(strike)) == strike.number()) {
+            add(rs["TotUnits"].numberOrZero(), rs["TotAmt"].numberOrZero());
+        } else {
+            const std::string one =
+                where + " and strike = " + sqlNumber(strike) + " and CP =" + q(rs["CP"].textOrEmpty());
+            add(sumOrZero("select sum(units) as TotUnits from dummytracker where " + one, "TotUnits"),
+                sumOrZero("select sum(" + amount + ") as TotAmt from dummytracker where " + one, "TotAmt"));
+        }
+    }
 }
 
 double RiskSheet::sumOrZero(const std::string& sql, const char* column) {

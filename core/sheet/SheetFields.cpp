@@ -167,6 +167,7 @@ void RiskSheet::wireEvents() {
     for (const char* f : kSignedFields)
         colourBySign(f);
     on("Form", EventType::Activate, [this](Event&) {
+        makeCurrentSheet();
         PrevMktPrice = text("TxtMktPrice");
         PrevDays = text("TxtDays");
     });

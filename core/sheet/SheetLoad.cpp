@@ -36,6 +36,10 @@ const char* const kSavedLadder[] = {"Strike", "CP", "units", "Traded", "Last", "
 } // namespace
 
 void RiskSheet::DoInit() {
+    loadFinished_ = false;
+    const Session& s = app().session();
+    OwnSymbol = s.g_strSymbol;
+    OwnDesc = s.g_strDesc;
     trapped("DoInit", [this] {
         ClearTextBoxes(*this);
         Grid& g = va1();
@@ -44,6 +48,7 @@ void RiskSheet::DoInit() {
         g.activeRow = 2;
         g.activeCol = 1;
         LoadSheet();
+        loadFinished_ = true;
     });
 }
 
@@ -83,13 +88,12 @@ void RiskSheet::LoadSheet() {
 }
 
 void RiskSheet::loadTrans() {
-    const Session& s = app().session();
+    // The index sheet reads its strike step as the stock sheet does: without it every strike of a
+    // new index ladder would be the middle one.
     Recordset trans = app().store().query(
-        std::string(isIndex() ? "select InType, InDesc, InSymbol, MidStrike, Transdt, AStrike, BStrike, "
-                                "DIntRate from trans where InSymbol = "
-                              : "select InType, InDesc, InSymbol, MidStrike, Transdt, AStrike, BStrike, "
-                                "UComm,DIntRate from trans where InSymbol = ") +
-        q(s.g_strSymbol) + " and InDesc = " + q(s.g_strDesc));
+        "select InType, InDesc, InSymbol, MidStrike, Transdt, AStrike, BStrike, UComm,DIntRate from trans "
+        "where InSymbol = " +
+        q(OwnSymbol) + " and InDesc = " + q(OwnDesc));
     if (trans.eof()) return;
     setText("TxtSymbol", trans["InSymbol"].textOrEmpty());
     SheetDate = trans["Transdt"].textOrEmpty();
@@ -99,7 +103,7 @@ void RiskSheet::loadTrans() {
     IntRate = trans["DIntRate"].numberOrZero() / 100;
     SheetType = trans["InType"].textOrEmpty();
     SheetDesc = trans["InDesc"].textOrEmpty();
-    if (!isIndex()) StrikeStep = trans["UComm"].numberOrZero();
+    StrikeStep = trans["UComm"].numberOrZero();
 }
 
 void RiskSheet::loadScript() {
@@ -114,9 +118,8 @@ void RiskSheet::loadScript() {
 }
 
 bool RiskSheet::loadHead() {
-    const Session& s = app().session();
-    Recordset head = app().store().query("select * from portfoliomast where Symbol = " + q(s.g_strSymbol) +
-                                         " and Descr = " + q(s.g_strDesc));
+    Recordset head = app().store().query("select * from portfoliomast where Symbol = " + q(OwnSymbol) +
+                                         " and Descr = " + q(OwnDesc));
     if (head.eof()) return false;
     for (const auto& [field, column] : kSavedFields)
         if (hasControl(field)) setText(field, head[column].textOrEmpty());
@@ -131,10 +134,9 @@ bool RiskSheet::loadHead() {
 }
 
 void RiskSheet::loadLadder() {
-    const Session& s = app().session();
     Grid& g = va1();
-    Recordset det = app().store().query("select * from portfoliodet where Symbol = " + q(s.g_strSymbol) +
-                                        " and Descr = " + q(s.g_strDesc) + " ORDER BY STRIKE, CP");
+    Recordset det = app().store().query("select * from portfoliodet where Symbol = " + q(OwnSymbol) +
+                                        " and Descr = " + q(OwnDesc) + " ORDER BY STRIKE, CP");
     // A ladder longer than the grid widens it, painted as the rest.
     if (static_cast<int>(det.recordCount()) + 1 > g.maxRows()) {
         g.setMaxRows(static_cast<int>(det.recordCount()) + 1);
@@ -201,20 +203,19 @@ void RiskSheet::PopulateLView1() {
 
 void RiskSheet::CancelData() {
     trapped("CancelData", [this] {
-        Session& s = app().session();
         Store& store = app().store();
         if (!store
-                 .query("select * from portfoliomast where Symbol = " + q(s.g_strSymbol) +
-                        " and Descr = " + q(s.g_strDesc))
+                 .query("select * from portfoliomast where Symbol = " + q(OwnSymbol) +
+                        " and Descr = " + q(OwnDesc))
                  .eof())
             return;
         {
             WriteGroup group(store);
-            store.execute("DELETE FROM TRANS WHERE INSYMBOL =" + q(Trim(s.g_strSymbol)) +
-                          " AND INDESC =" + q(Trim(s.g_strDesc)));
+            store.execute("DELETE FROM TRANS WHERE INSYMBOL =" + q(Trim(OwnSymbol)) +
+                          " AND INDESC =" + q(Trim(OwnDesc)));
             store.execute(isIndex() ? "Delete from Dummytracker"
-                                    : "Delete from Dummytracker where symbol = " + q(s.g_strSymbol) +
-                                          " and indesc = " + q(s.g_strDesc));
+                                    : "Delete from Dummytracker where symbol = " + q(OwnSymbol) +
+                                          " and indesc = " + q(OwnDesc));
             store.execute("Delete from DumUploadFile");
         }
         if (auto* list = dynamic_cast<FrmNewMainScreen*>(app().screens().find(FrmNewMainScreen::kName)))

@@ -103,6 +103,14 @@ const char* const kDetailColumns[] = {"Traded", "Last",     "Vol",  "Delta",   "
 } // namespace
 
 void RiskSheet::SaveData() {
+    // A sheet whose load broke off holds a partial ledger and ladder: saving it would replace the
+    // committed trades with what little was read.
+    if (!loadFinished_) {
+        ui().msgBox({"This sheet did not finish loading, so it cannot be saved: its trades and ladder may "
+                     "be incomplete. Close it and open it again.",
+                     "Save", MsgButtons::Ok, MsgIcon::Critical});
+        return;
+    }
     trapped("SaveData", [this] {
         // Noted first: a save that fails part way no longer asks at close.
         SavedDelNeutral = Trim(text("txtdelneutral"));
@@ -118,7 +126,7 @@ void RiskSheet::SaveData() {
 void RiskSheet::AddMaster() {
     trapped("AddMaster", [this] {
         const std::string Symbol = Trim(text("TxtSymbol"));
-        Columns head{{"Symbol", Symbol, true}, {"Descr", app().session().g_strDesc, true}};
+        Columns head{{"Symbol", Symbol, true}, {"Descr", OwnDesc, true}};
         auto add = [&](const HeadColumn& c) {
             // A field the sheet kind lacks (the index sheet has no totals) stores 0.
             const std::string t = hasControl(c.field) ? text(c.field) : std::string();
@@ -142,9 +150,12 @@ void RiskSheet::AddMaster() {
             head.push_back({"field1", text("TxtEx_Magin"), true});
         }
         Store& store = app().store();
+        // The old head goes only if the new one is written.
+        AllOrNothing step(store);
         store.execute("Delete from PortfolioMast where Symbol = " + q(Symbol) +
-                      " and Descr = " + q(Trim(app().session().g_strDesc)));
+                      " and Descr = " + q(Trim(OwnDesc)));
         store.execute(insertInto("PortfolioMast", head));
+        step.done();
     });
 }
 
@@ -157,14 +168,13 @@ void RiskSheet::AddDetail() {
             return t.empty() ? std::string("0") : NumText(col == 3 ? CLng(CDbl(t)) : CDbl(t));
         };
         Store& store = app().store();
-        WriteGroup group(store);
+        AllOrNothing step(store);
         store.execute("Delete from PortfolioDet where Symbol = " + q(Symbol) +
-                      " and Descr = " + q(Trim(app().session().g_strDesc)));
+                      " and Descr = " + q(Trim(OwnDesc)));
         const int last = lastLadderRow();
         for (int row = 2; row <= last; ++row) {
-            Columns det{{"Symbol", Symbol, true},   {"Descr", app().session().g_strDesc, true},
-                        {"Strike", number(row, 1)}, {"CP", cell(row, 2), true},
-                        {"Units", number(row, 3)},  {"Dt", today}};
+            Columns det{{"Symbol", Symbol, true},   {"Descr", OwnDesc, true},  {"Strike", number(row, 1)},
+                        {"CP", cell(row, 2), true}, {"Units", number(row, 3)}, {"Dt", today}};
             for (int col = 4; col <= 15; ++col)
                 det.push_back({kDetailColumns[col - 4], number(row, col)});
             if (!isIndex()) {
@@ -177,15 +187,17 @@ void RiskSheet::AddDetail() {
             }
             store.execute(insertInto("PortfolioDet", det));
         }
+        step.done();
     });
 }
 
 void RiskSheet::ErrProcAddUploadedFile() {
     try {
         Store& store = app().store();
-        WriteGroup group(store);
+        AllOrNothing step(store);
         store.execute("delete from UploadFile where " + sheetLedgerKey());
         store.execute("insert into UploadFile select * from DumUploadFile");
+        step.done();
     } catch (const ProgramEnd&) {
         throw;
     } catch (const std::exception& e) {

@@ -28,6 +28,9 @@ void RiskSheet::CalcUpDnBal() {
 void RiskSheet::GetUpDnData() {
     trapped("GetUpDnData", [this] {
         if (pricingInputsMissing()) return;
+        // A walk of the ladder like the fill: the other side's sigma starts at 0, not at what the
+        // last fill left, so a high volatility on one side does not move the first rows' clock.
+        SigmaC = SigmaP = 0;
         const int last = lastLadderRow();
         for (int row = 2; row <= last; ++row) {
             CurStrike = CDbl(cell(row, 1));
@@ -42,8 +45,9 @@ void RiskSheet::GetUpDnData() {
     });
 }
 
-// A row's price at the scenario price, to two decimals: the tree on the stock sheet, leaving
-// the last tree's OptionValue as it was, the closed form on the index sheet.
+// A row's price at the scenario price: the tree's, to two decimals, on the stock sheet, leaving
+// the last tree's OptionValue as it was; on the index sheet the closed form with its own
+// rounding to three decimals, which stands in place of the tree and so takes none of its own.
 double RiskSheet::scenarioValue(double T, bool call) {
     const double S = ScenPrice, K = CurStrike;
     if (!isIndex()) {
@@ -60,7 +64,7 @@ double RiskSheet::scenarioValue(double T, bool call) {
     const pricing::IndexInputs in{S, K, IntRate, CurVol, CurDays};
     index_.CalcD1Index(in);
     index_.CalcD2Index(in);
-    return Round(call ? index_.PriceCallIndex(in) : index_.PricePutIndex(in), 2);
+    return call ? index_.PriceCallIndex(in) : index_.PricePutIndex(in);
 }
 
 void RiskSheet::TotExposure() {

@@ -72,18 +72,22 @@ void RiskSheet::AddStock(const std::string& Units, const std::string& Traded, co
 void RiskSheet::UpdateTracker() {
     trapped("UpdateTracker", [this] {
         Store& store = app().store();
-        const Session& s = app().session();
-        const std::string key = "[symbol] = " + q(Trim(s.g_strSymbol)) + " and [indesc] = " + q(s.g_strDesc);
+        const std::string symbol = Trim(OwnSymbol);
+        // A text the statement could not hold fails as it would.
+        (void)q(symbol);
+        (void)q(OwnDesc);
         WriteGroup group(store, WriteGroup::Rows::Working);
         // A flat series is left out: its rows keep the values of its last open moment, from
         // which its realised result is worked out.
         const int last = lastLadderRow();
         for (int row = 2; row <= last; ++row) {
             if (Trim(cell(row, 3)).empty() || CLng(cell(row, 3)) == 0) continue;
-            store.execute("update dummytracker set [last] =" + number(cell(row, 5)) +
-                          ", [vol] = " + number(cell(row, 6)) + ", [delta] = " + number(cell(row, 7)) +
-                          " , [DumThVal] = " + number(cell(row, 8)) + " where " + key +
-                          " and [strike] = " + number(cell(row, 1)) + " and [CP] = " + q(cell(row, 2)));
+            (void)q(cell(row, 2));
+            // The figures go in as the statement's own texts would: prepared once, not per refresh.
+            store.execute("update dummytracker set [last] =?, [vol] = ?, [delta] = ? , [DumThVal] = ? where "
+                          "[symbol] = ? and [indesc] = ? and [strike] = ? and [CP] = ?",
+                          {number(cell(row, 5)), number(cell(row, 6)), number(cell(row, 7)),
+                           number(cell(row, 8)), symbol, OwnDesc, number(cell(row, 1)), cell(row, 2)});
         }
     });
 }
@@ -92,11 +96,13 @@ void RiskSheet::ErrProcAddTracker() {
     try {
         Store& store = app().store();
         const std::string key = sheetLedgerKey();
-        WriteGroup group(store);
+        // The committed trades go only if their replacement is written.
+        AllOrNothing step(store);
         store.execute("delete from tracker where " + key);
         // The index sheet commits whatever the working ledger holds: it keeps one sheet's rows.
         store.execute(isIndex() ? "insert into tracker select * from dummytracker"
                                 : "insert into tracker select * from dummytracker where " + key);
+        step.done();
     } catch (const ProgramEnd&) {
         throw;
     } catch (const std::exception& e) {

@@ -89,21 +89,12 @@ void RiskSheet::CalcROption() {
     trapped(
         "CalcROption",
         [this] {
-            Store& store = app().store();
-            const std::string key = trimmedLedgerKey();
             double acc = 0;
-            Recordset series = store.query("select distinct strike, CP from dummytracker where " + key +
-                                           (isIndex() ? " and CP<> 'S'" : " and CP <>'S'"));
-            for (; !series.eof(); series.moveNext()) {
-                const std::string one = key + " and strike = " + sqlNumber(series["strike"]) +
-                                        " and CP =" + q(series["CP"].textOrEmpty());
-                // Flat series only: the model value of their rows cancels, leaving the cash result.
-                if (CLng(sumOrZero("select sum(units) as TotUnits from dummytracker where " + one,
-                                   "TotUnits")) == 0)
-                    acc += sumOrZero(
-                        "select sum(units*last-units*traded) as TotAmt from dummytracker where " + one,
-                        "TotAmt");
-            }
+            // Flat series only: the model value of their rows cancels, leaving the cash result.
+            seriesSums(trimmedLedgerKey() + (isIndex() ? " and CP<> 'S'" : " and CP <>'S'"),
+                       "units*last-units*traded", [&](double units, double amount) {
+                           if (CLng(units) == 0) acc += amount;
+                       });
             set("TxtOptR", Round(acc, 0));
         },
         " And No: ");

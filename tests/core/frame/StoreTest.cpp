@@ -2,8 +2,11 @@
 
 #include "frame/Schema.h"
 #include "frame/Store.h"
+#include "frame/VbNumber.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
+#include <random>
 
 using namespace tallimark;
 
@@ -170,4 +173,22 @@ TEST(StoreDialect, StoreErrorsKeepTheEnginesCodeAndText) {
     }
     EXPECT_THROW(desk.app.store().execute("insert into Users (UserCd) values ('1')"), StoreError); // the key
     EXPECT_THROW(Store::open(desk.dir.path() / "missing.db"), StoreError);
+}
+
+TEST(Store, AFigureInPlaceOfAMarkIsStoredAsItsTextInTheStatementWouldBe) {
+    // The refresh writes held series through "?" marks: every double stored must be the bits that
+    // the statement holding the figure's own text would store. Figures of every size and sign.
+    test::Desk desk;
+    Store& store = desk.app.store();
+    store.executeNative("create table F (k DOUBLE, x DOUBLE, y DOUBLE)");
+    std::mt19937_64 rng(11);
+    WriteGroup group(store);
+    for (int i = 0; i < 20000; ++i) {
+        const double v = std::ldexp(static_cast<double>(rng() >> 11), static_cast<int>(rng() % 90) - 95);
+        const std::string t = NumText(i % 2 ? -v : v), k = NumText(i / 7.0);
+        store.execute("insert into F (k) values (" + k + ")");
+        store.execute("update F set x = " + t + " where k = " + k);
+        store.execute("update F set y = ? where k = ?", {t, k});
+    }
+    EXPECT_EQ(count(store, "select count(*) from F where x = y and typeof(x) = typeof(y)"), 20000);
 }

@@ -73,8 +73,13 @@ TEST(SheetCommands, AltLettersOpenTheScreensOfTheirSheetKind) {
         for (bool onIndex : {false, true}) {
             CommandDesk d;
             RiskSheet& s = onIndex ? d.index() : d.stock();
+            d.app.session().g_strSymbol = "OTHER"; // a click on the main screen's list meanwhile
             CommandDesk::key(s, c.letter, keys::AltMask);
             EXPECT_TRUE(shownScreen(d.app, onIndex ? c.indexScreen : c.stockScreen)) << c.letter << onIndex;
+            EXPECT_EQ(d.app.session().g_strSymbol, s.OwnSymbol) << "the screen opens on its own sheet";
+            d.app.session().g_strSymbol = "OTHER";
+            s.fire("Form", EventType::Activate);
+            EXPECT_EQ(d.app.session().g_strSymbol, s.OwnSymbol) << "and is current again when active";
         }
 }
 

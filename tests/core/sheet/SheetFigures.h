@@ -75,16 +75,16 @@ inline const std::pair<const char*, const char*> kStockExpiryFields[] = {
     {"TxtDays", "0"},       {"TxtImpVolP", "32"},   {"TxtTotDel", "-15"},    {"TxtTotGamma", "0"},
     {"TxtTotVega", "0"},    {"TxtTotTheta", "0"},   {"TxtCallDelta", "-15"}, {"TxtCallGamma", "0"},
     {"TxtCallVega", "0"},   {"TxtCallTheta", "0"},  {"TxtPutDelta", "0"},    {"TxtPutGamma", "0"},
-    {"TxtPutVega", "0"},    {"TxtPutTheta", "0"},   {"TxtDelPts", "100"},    {"TxtDelCon", "-250"},
-    {"TxtThetaCon", "0"},   {"TxtVegaConn", "0"},   {"TxtGamCon", "0"},      {"TxtDelHed", "BUY  3"},
-    {"TxtGamPts", "0"},     {"TxtGamHed", " "},     {"TxtVegaPts", "0"},     {"TxtVegaHed", " "},
-    {"TxtThePts", "0"},     {"TxtTheHed", " "},     {"TxtAvgVol", "0"},      {"txtdelneutral", "-20"},
+    {"TxtPutVega", "0"},    {"TxtPutTheta", "0"},   {"TxtDelPts", "44.44"},  {"TxtDelCon", ""},
+    {"TxtThetaCon", ""},    {"TxtVegaConn", ""},    {"TxtGamCon", ""},       {"TxtDelHed", ""},
+    {"TxtGamPts", "11.11"}, {"TxtGamHed", ""},      {"TxtVegaPts", ""},      {"TxtVegaHed", ""},
+    {"TxtThePts", ""},      {"TxtTheHed", ""},      {"TxtAvgVol", ""},       {"txtdelneutral", "-20"},
     {"TxtPremium", "-178"}, {"TxtOptU", "300"},     {"TxtOptR", "24"},       {"TxtFutU", "31"},
     {"TxtDelVal", "19"},    {"TxtGamVal", "0"},     {"TxtVegaVal", "0"},     {"TxtTheVal", "0"},
     {"TxtBalance", "42"},   {"TxtEx_Magin", "850"},
 };
 inline const char* const kStockExpiryLadder[10][16] = {
-    {"960", "C", "0", "0", "40", "30", "100", "0.9", "0", "0", "0", "0", "0", "0", "0", "0"},
+    {"960", "C", "0", "0", "40", "30", "100", "0.9", "0", "0", "0", "0", "0", "0", "0", ""},
     {"960", "P", "-6", "2.83", "0", "32", "0", "0.9", "0", "0", "0", "0", "0", "0", "0", ""},
     {"980", "C", "15", "21", "20", "30", "100", "0.9", "-15", "0", "0", "0", "0", "0", "0", ""},
     {"980", "P", "0", "0", "0", "32", "0", "0.9", "0", "0", "0", "0", "0", "0", "0", ""},
@@ -126,14 +126,14 @@ inline const char* const kIndexLiveLadder[10][16] = {
     {"6200", "P", "0", "0", "190.16", "22", "-66", "0", "0", "-3.531", "0", "4.782", "0", "0.001", "0", ""},
 };
 inline const double kIndexLiveUpPrices[4] = {6655, 7260, 5445, 4840};
-inline const double kIndexLiveUpBalances[4] = {30744, 62186, -16471, -32722};
+inline const double kIndexLiveUpBalances[4] = {30744, 62186, -16471, -32721};
 
 inline const std::pair<const char*, const char*> kIndexExpiryFields[] = {
-    {"TxtDays", "0"},         {"TxtImpVolP", "22"},      {"TxtDelPts", "100"}, {"TxtDelCon", "50"},
-    {"TxtGamCon", "0"},       {"TxtDelHed", "SELL  -4"}, {"TxtGamPts", "0"},   {"TxtGamHed", " "},
-    {"TxtVegaPts", "0"},      {"TxtVegaHed", " "},       {"TxtThePts", "0"},   {"TxtTheHed", " "},
-    {"txtdelneutral", "-52"}, {"TxtPremium", "-4500"},   {"TxtOptU", "5000"},  {"TxtOptR", "150"},
-    {"TxtFutU", "180"},       {"TxtDelVal", "50"},       {"TxtGamVal", "0"},   {"TxtVegaVal", "0"},
+    {"TxtDays", "0"},         {"TxtImpVolP", "22"},    {"TxtDelPts", "44.44"}, {"TxtDelCon", "50"},
+    {"TxtGamCon", "0"},       {"TxtDelHed", ""},       {"TxtGamPts", "11.11"}, {"TxtGamHed", ""},
+    {"TxtVegaPts", ""},       {"TxtVegaHed", ""},      {"TxtThePts", ""},      {"TxtTheHed", ""},
+    {"txtdelneutral", "-52"}, {"TxtPremium", "-4500"}, {"TxtOptU", "5000"},    {"TxtOptR", "150"},
+    {"TxtFutU", "180"},       {"TxtDelVal", "50"},     {"TxtGamVal", "0"},     {"TxtVegaVal", "0"},
     {"TxtTheVal", "0"},       {"TxtBalance", "750"},
 };
 inline const char* const kIndexExpiryLadder[10][16] = {
@@ -150,5 +150,36 @@ inline const char* const kIndexExpiryLadder[10][16] = {
 };
 inline const double kIndexExpiryUpPrices[4] = {6710, 7320, 5490, 4880};
 inline const double kIndexExpiryUpBalances[4] = {-3030, -1810, -5470, -6690};
+
+inline const std::pair<const char*, const char*> kStockHighPutVolFields[] = {
+    {"TxtImpVolP", "55"},
+    {"TxtPremium", "-2178"},
+    {"TxtOptR", "24"},
+    {"TxtFutR", "0"},
+};
+inline const char* const kStockHighPutVolLadder[10][16] = {
+    {"960", "C", "40", "50", "115.79", "30", "96.316", "115.358", "-38.5", "0.432", "-17.3", "0.195", "7.8",
+     "0.001", "0", "0"},
+    {"960", "P", "-6", "2.83", "10.98", "55", "-15.643", "10.102", "-0.9", "0.878", "5.3", "0.557", "-3.3",
+     "0.002", "0", ""},
+    {"980", "C", "15", "21", "96.92", "30", "93.003", "96.366", "-14", "0.554", "-8.3", "0.326", "4.9",
+     "0.002", "0", ""},
+    {"980", "P", "0", "0", "15.18", "55", "-20.193", "14.137", "0", "1.043", "0", "0.654", "0", "0.002", "0",
+     ""},
+    {"1000", "C", "0", "0", "79.15", "30", "87.659", "78.504", "0", "0.646", "0", "0.487", "0", "0.003", "0",
+     ""},
+    {"1000", "P", "-8", "15", "20.4", "55", "-25.336", "19.208", "-2", "1.192", "9.5", "0.742", "-5.9",
+     "0.003", "0", ""},
+    {"1020", "C", "0", "0", "62.75", "30", "80.193", "61.935", "0", "0.815", "0", "0.656", "0", "0.004", "0",
+     ""},
+    {"1020", "P", "0", "0", "26.74", "55", "-30.997", "25.533", "0", "1.207", "0", "0.817", "0", "0.003", "0",
+     ""},
+    {"1040", "C", "0", "0", "48.09", "30", "70.782", "47.203", "0", "0.887", "0", "0.803", "0", "0.005", "0",
+     ""},
+    {"1040", "P", "0", "0", "34.52", "55", "-37.095", "33.211", "0", "1.309", "0", "0.873", "0", "0.003", "0",
+     ""},
+};
+inline const double kStockHighPutVolUpPrices[4] = {1177, 1284, 963, 856};
+inline const double kStockHighPutVolUpBalances[4] = {10465, 16934, -1782, -4783};
 
 } // namespace tallimark::test::figures

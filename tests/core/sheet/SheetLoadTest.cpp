@@ -14,9 +14,9 @@ const Rgb kRed = RGB(255, 0, 0), kCyan = RGB(0, 255, 255), kYellow = RGB(255, 25
           kGreen = RGB(0, 255, 0);
 
 struct NewSheetDesk : test::SheetDesk {
-    RiskSheet& openNew(int above, int below, double step = 20) {
+    RiskSheet& openNew(int above, int below, double step = 20, SheetKind kind = SheetKind::Stock) {
         app.session().g_ExpiryDate = VbDate::fromYmd(2026, 11, 26);
-        return openFresh(SheetKind::Stock, above, below, step);
+        return openFresh(kind, above, below, step);
     }
 };
 
@@ -33,7 +33,9 @@ TEST(SheetLoad, ANewLadderIsBuiltRoundTheMarketPrice) {
     struct Case {
         int above, below;
         std::vector<std::string> rows; // strike and side of rows 1 to the last
+        SheetKind kind = SheetKind::Stock;
     } cases[] = {
+        {1, 1, {"", "980C", "980P", "1000C", "1000P", "1020C", "1020P"}, SheetKind::Index},
         {2, 2, {"", "960C", "960P", "980C", "980P", "1000C", "1000P", "1020C", "1020P", "1040C", "1040P"}},
         {0, 3, {"", "940C", "940P", "960C", "960P", "980C", "980P", "1000C", "1000P"}},
         // Nothing below: no middle strike, and the first row above lands on the heading row.
@@ -42,7 +44,7 @@ TEST(SheetLoad, ANewLadderIsBuiltRoundTheMarketPrice) {
     };
     for (const Case& c : cases) {
         NewSheetDesk d;
-        RiskSheet& s = d.openNew(c.above, c.below);
+        RiskSheet& s = d.openNew(c.above, c.below, 20, c.kind);
         EXPECT_EQ(ladderText(s), c.rows) << c.above << " above, " << c.below << " below";
         EXPECT_TRUE(d.ui.boxes().empty());
     }

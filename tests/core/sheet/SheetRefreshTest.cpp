@@ -160,14 +160,15 @@ TEST(SheetRefresh, HedgeTextsByRowSideAndTheSignOfDeltaNeutral) {
 }
 
 TEST(SheetRefresh, NoDeltaBlanksThePointsOfACallAndTheHedgeOfAPut) {
-    test::SheetDesk d;
-    RiskSheet& s = test::openSaved(d, test::kSavedSheets[1]); // the stock sheet on its expiry day
+    LiveSheet d;
+    RiskSheet& s = d.s;
     s.setText("TxtDelHed", "kept");
-    s.va1_Click(1, 8); // 1020 C at expiry: delta 0
+    s.va1().setText(8, 7, "0"); // 1020 C with no delta
+    s.va1_Click(1, 8);
     EXPECT_EQ(s.text("TxtDelPts"), " ");
     EXPECT_EQ(s.text("TxtDelHed"), "kept");
-    EXPECT_EQ(s.text("TxtGamHed"), " ") << "no gamma at expiry";
-    s.va1_Click(1, 3); // 960 P at expiry: delta 0
+    s.va1().setText(3, 7, "0"); // 960 P
+    s.va1_Click(1, 3);
     EXPECT_EQ(s.text("TxtDelPts"), "0");
     EXPECT_EQ(s.text("TxtDelHed"), " ");
 }

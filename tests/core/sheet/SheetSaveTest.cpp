@@ -67,17 +67,53 @@ TEST(SheetSave, EveryLadderRowIsStoredAndHeldRowsAreMarked) {
     EXPECT_EQ(d.number("select count(*) from PortfolioDet where Field1 = '0'"), 10);
 }
 
-TEST(SheetSave, AFailedHeadLeavesTheOtherStepsToRun) {
+TEST(SheetSave, AFailedStepKeepsItsRowsAndTheOtherStepsRun) {
+    // Each step's insert is made to fail; its delete is undone with it, and the head (KeyOff K9
+    // when written, K1 as saved) shows that the other steps went on, under the sheet's own key
+    // though the main screen's list points at another sheet.
+    struct Case {
+        const char* table;
+        const char* box;
+        double rows;
+        const char* keyOff;
+    } cases[] = {{"PortfolioMast", "Error in AddMaster Procedure: ", 1, "K1"},
+                 {"PortfolioDet", "Error in AddDetail Procedure: ", 10, "K9"},
+                 {"Tracker", "Error in ErrProcAddTracker procedure: ", 9, "K9"},
+                 {"UploadFile", "Error in ErrProcAddUploadedFile procedure: ", 1, "K9"}};
+    for (const Case& c : cases) {
+        SaveDesk d;
+        RiskSheet& s = d.openStock();
+        Store& store = d.app.store();
+        store.execute("insert into UploadFile (symbol, Indesc) values ('RILK2026', 'NOV SHEET')");
+        store.execute("insert into DumUploadFile (symbol, Indesc) values ('RILK2026', 'NOV SHEET')");
+        store.executeNative(std::string("CREATE TRIGGER full BEFORE INSERT ON ") + c.table +
+                            " BEGIN SELECT RAISE(ABORT, 'disk full'); END");
+        s.setText("TxtKeyOff", "K9");
+        d.app.session().g_strDesc = "NIFTY NOV";
+        s.SaveData();
+        ASSERT_EQ(d.boxTexts().size(), 1u) << c.table;
+        EXPECT_EQ(d.boxTexts()[0].rfind(c.box, 0), 0u) << d.boxTexts()[0];
+        EXPECT_EQ(d.number(std::string("select count(*) from ") + c.table), c.rows) << c.table;
+        EXPECT_EQ(d.head()["KeyOff"].text(), c.keyOff) << c.table;
+        EXPECT_EQ(d.head().recordCount(), 1u) << "no head under the list's sheet";
+        EXPECT_EQ(s.SavedBalance, Trim(s.text("TxtBalance")));
+    }
+}
+
+TEST(SheetSave, ASheetWhoseLoadBrokeOffIsNeverSaved) {
     SaveDesk d;
-    RiskSheet& s = d.openStock();
-    d.app.store().execute("delete from PortfolioDet");
-    s.setText("TxtKeyOff", "O'Neil");
-    s.SaveData();
-    ASSERT_EQ(d.boxTexts().size(), 1u);
-    EXPECT_EQ(d.boxTexts()[0].rfind("Error in AddMaster Procedure: ", 0), 0u) << d.boxTexts()[0];
-    EXPECT_TRUE(d.head().eof()) << "the old head is gone and no new one written";
-    EXPECT_EQ(d.number("select count(*) from PortfolioDet"), 10);
-    EXPECT_EQ(s.SavedBalance, Trim(s.text("TxtBalance")));
+    test::kSavedSheets[0].save(d.app.store());
+    d.app.store().execute("drop table UploadFile"); // the working copy cannot be finished
+    RiskSheet& s = d.open(SheetKind::Stock, test::kStockSymbol, test::kStockDesc);
+    s.fire("Toolbar1(1)", EventType::Click);
+    s.requestClose();
+    const std::vector<std::string> boxes = d.boxTexts();
+    ASSERT_EQ(boxes.size(), 3u);
+    EXPECT_EQ(boxes[0].rfind("Error in DoInit Procedure: ", 0), 0u) << boxes[0];
+    EXPECT_EQ(boxes[1].rfind("This sheet did not finish loading, so it cannot be saved", 0), 0u);
+    EXPECT_EQ(boxes[2], "This sheet did not finish loading and was not saved.");
+    EXPECT_EQ(d.number("select count(*) from Tracker"), 9) << "the committed trades stand";
+    EXPECT_FALSE(s.visible());
 }
 
 TEST(SheetSave, TheUploadBookkeepingOfTheSheetIsReplaced) {

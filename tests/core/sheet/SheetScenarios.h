@@ -56,8 +56,10 @@ inline void ladder(Store& store, const char* symbol, const char* desc, int low, 
 
 } // namespace scenario
 
-// The stock sheet at a saved market price, expiring on the given day ("10-Dec-2026").
-inline void saveStockSheet(Store& store, const std::string& price, const std::string& expiry) {
+// The stock sheet at a saved market price, expiring on the given day ("10-Dec-2026"), with its
+// put volatility and any rows held beside the three below ("960 C 4 50;").
+inline void saveStockSheet(Store& store, const std::string& price, const std::string& expiry,
+                           const std::string& putVol = "32", const std::string& moreHeld = "") {
     const char *S = kStockSymbol, *D = kStockDesc;
     WriteGroup group(store);
     store.execute(
@@ -68,13 +70,13 @@ inline void saveStockSheet(Store& store, const std::string& price, const std::st
     store.execute(
         "insert into PortfolioMast (Symbol, Descr, MktPrice, Days, Net, ImpVol, ImpVolP, AvgVol, KeyOff, "
         "Spread, Premium, Comm, CashU, CashR, FutureU, FutureR, OptionU, OptionR, Equity, Balance, "
-        "TotComm, FutLots, FutTrade, CashLots, CashTrade, DelNeutral, Dt, ExpDt, Field2, Field1) values "
-        "('RILK2026', 'NOV SHEET', " +
-        price +
-        ", 20, 7, 30, 32, 31, 'K1', 'SP', 111, -150, 40, -25, 9, 0, 8, 7, 5, 0, 12, 5, 993.8, 2, "
-        "990, 3, cdate('20-Nov-2026'), cdate(" +
+        "TotComm, FutLots, FutTrade, CashLots, CashTrade, DelNeutral, DelPts, GamPts, Dt, ExpDt, Field2, "
+        "Field1) values ('RILK2026', 'NOV SHEET', " +
+        price + ", 20, 7, 30, " + putVol +
+        ", 31, 'K1', 'SP', 111, -150, 40, -25, 9, 0, 8, 7, 5, 0, 12, 5, 993.8, 2, "
+        "990, 3, 44.44, 11.11, cdate('20-Nov-2026'), cdate(" +
         q(expiry) + "), 50000, '1234.5')");
-    scenario::ladder(store, S, D, 960, 20, "25", "960 P -6 2.83;980 C 15 21;1000 P -8 15;");
+    scenario::ladder(store, S, D, 960, 20, "25", "960 P -6 2.83;980 C 15 21;1000 P -8 15;" + moreHeld);
     scenario::trade(store, S, D, "S", "960", "P", -4, 3, "2", "-20", "1.9", "33");
     scenario::trade(store, S, D, "S", "960", "P", -2, 2.5, "2", "-20", "1.9", "33");
     scenario::trade(store, S, D, "S", "980", "C", 10, 20, "18", "60", "17", "29");
@@ -94,10 +96,10 @@ inline void saveIndexSheet(Store& store, const std::string& price, const std::st
         "Transdt) values ('NIFX2026', 'NIFTY NOV', 'F', 6000, 2, 2, 100, 8, cdate('01-Nov-2026'))");
     store.execute(
         "insert into PortfolioMast (Symbol, Descr, MktPrice, Days, ImpVol, ImpVolP, Premium, Comm, CashU, "
-        "CashR, FutureR, OptionR, FutLots, FutTrade, DelNeutral, Dt, ExpDt) values ('NIFX2026', "
-        "'NIFTY NOV', " +
-        price + ", 20, 20, 22, 0, -80, 0, 0, 0, 0, 2, 6010, -4, cdate('20-Nov-2026'), cdate(" + q(expiry) +
-        "))");
+        "CashR, FutureR, OptionR, FutLots, FutTrade, DelNeutral, DelPts, GamPts, Dt, ExpDt) values "
+        "('NIFX2026', 'NIFTY NOV', " +
+        price + ", 20, 20, 22, 0, -80, 0, 0, 0, 0, 2, 6010, -4, 44.44, 11.11, cdate('20-Nov-2026'), cdate(" +
+        q(expiry) + "))");
     scenario::ladder(store, S, D, 5800, 100, "20", "5900 P -25 60;6000 C 50 120;");
     scenario::trade(store, S, D, "F", "5900", "P", -25, 60, "55", "-30", "54", "22");
     scenario::trade(store, S, D, "F", "6000", "C", 50, 120, "110", "55", "108", "20");
@@ -117,30 +119,34 @@ struct SavedSheet {
     const char* const (*ladder)[16];
     const double* upPrices;
     const double* upBalances;
+    const char* putVol = "32";
+    const char* moreHeld = "";
 
     bool stock() const { return kind == SheetKind::Stock; }
     const char* symbol() const { return stock() ? kStockSymbol : kIndexSymbol; }
     const char* desc() const { return stock() ? kStockDesc : kIndexDesc; }
     void save(Store& store) const {
         if (stock())
-            saveStockSheet(store, price, expiry);
+            saveStockSheet(store, price, expiry, putVol, moreHeld);
         else
             saveIndexSheet(store, price, expiry);
     }
 };
 
-#define TALLIMARK_SAVED_SHEET(name, kind, price, expiry)                                                     \
+#define TALLIMARK_SAVED_SHEET(name, kind, price, expiry, ...)                                                \
     SavedSheet {                                                                                             \
 #name, kind, price, expiry, figures::k##name##Fields, std::size(figures::k##name##Fields),           \
-            figures::k##name##Ladder, figures::k##name##UpPrices, figures::k##name##UpBalances               \
+            figures::k##name##Ladder, figures::k##name##UpPrices, figures::k##name##UpBalances, __VA_ARGS__  \
     }
 
-// Live (17 days to run) and on the expiry day, stock and index.
+// Live (17 days to run) and on the expiry day, stock and index; and a live stock sheet whose put
+// volatility is above 50 % with a call held on the lowest strike.
 inline const SavedSheet kSavedSheets[] = {
-    TALLIMARK_SAVED_SHEET(StockLive, SheetKind::Stock, "1010", "10-Dec-2026"),
-    TALLIMARK_SAVED_SHEET(StockExpiry, SheetKind::Stock, "1000", "23-Nov-2026"),
-    TALLIMARK_SAVED_SHEET(IndexLive, SheetKind::Index, "6050", "10-Dec-2026"),
-    TALLIMARK_SAVED_SHEET(IndexExpiry, SheetKind::Index, "6100", "23-Nov-2026"),
+    TALLIMARK_SAVED_SHEET(StockLive, SheetKind::Stock, "1010", "10-Dec-2026", "32"),
+    TALLIMARK_SAVED_SHEET(StockExpiry, SheetKind::Stock, "1000", "23-Nov-2026", "32"),
+    TALLIMARK_SAVED_SHEET(IndexLive, SheetKind::Index, "6050", "10-Dec-2026", "32"),
+    TALLIMARK_SAVED_SHEET(IndexExpiry, SheetKind::Index, "6100", "23-Nov-2026", "32"),
+    TALLIMARK_SAVED_SHEET(StockHighPutVol, SheetKind::Stock, "1070", "10-Dec-2026", "55", "960 C 40 50;"),
 };
 
 #undef TALLIMARK_SAVED_SHEET

@@ -349,7 +349,8 @@ class Sheet:
 
     def click(self, row):
         f, c = self.f, self.g[row]
-        if f["TxtMktPrice"] in ("", "0") or f["TxtDays"] == "" or f["TxtImpVol"] in ("", "0"):
+        # Unlike the fill, the click stops on a "0" of days as well.
+        if f["TxtMktPrice"] in ("", "0") or f["TxtDays"] in ("", "0") or f["TxtImpVol"] in ("", "0"):
             return
         self.active = row
         K = float(c[0])
@@ -536,9 +537,9 @@ class Sheet:
         S = float(f["TxtMktPrice"])
         prices = [S + S * 0.1, S + S * 0.2, S - S * 0.1, S - S * 0.2]
         out = []
-        sc = sp = 0.0
         days = float(f["TxtDays"])
         for P in prices:
+            sc = sp = 0.0  # each walk starts with neither side's sigma
             opt = 0.0
             fut = Round((P - val(f["TxtFutTrade"])) * val(f["TxtFutLots"]), 0)
             for row in range(2, self.last_row() + 1):
@@ -554,9 +555,10 @@ class Sheet:
                 T = days * 0.5 / half
                 if T > 0:
                     if self.index:
+                        # The closed form's own 3 decimals, no tree rounding on top.
                         sig = sc if call else sp
                         self.im.d1d2(P, K, self.r, sig, days)
-                        v = Round(self.im.price(P, K, self.r, days, call), 2)
+                        v = self.im.price(P, K, self.r, days, call)
                     else:
                         v = Round(tree(P, K, T, self.r, sc if call else sp, 0.1, 100, call)[0], 2)
                     opt += v * U
@@ -582,9 +584,10 @@ def stock_ledger():
     ])
 
 
-def stock_ladder():
+def stock_ladder(more_held=None):
     # Strike, CP, units, traded, last, vol, delta, DumThVal as the saved ladder holds them.
     held = {(960, "P"): ("-6", "2.83"), (980, "C"): ("15", "21"), (1000, "P"): ("-8", "15")}
+    held.update(more_held or {})
     rows = []
     for k in (960, 980, 1000, 1020, 1040):
         for cp in ("C", "P"):
@@ -593,12 +596,24 @@ def stock_ladder():
     return rows
 
 
-def stock_fields(price, days):
+# The per-contract, points and hedge fields as a save leaves them: a click that does not run
+# keeps them so.
+CLICKED = ["TxtDelCon", "TxtThetaCon", "TxtVegaConn", "TxtGamCon", "TxtDelHed", "TxtGamHed", "TxtVegaHed",
+           "TxtTheHed", "TxtDelPts", "TxtGamPts", "TxtVegaPts", "TxtThePts", "TxtAvgVol"]
+
+
+def saved_clicked(f, index=False):
+    f.update({n: "" for n in CLICKED if not (index and n in ("TxtThetaCon", "TxtVegaConn", "TxtAvgVol"))})
+    f.update(TxtDelPts="44.44", TxtGamPts="11.11")
+
+
+def stock_fields(price, days, put_vol="32"):
     names = ["TxtSymbol", "TxtMktPrice", "TxtDays", "TxtImpVol", "TxtImpVolP", "TxtContract", "TxtFutLots",
              "TxtFutTrade", "TxtComm", "TxtCashU", "TxtCashR", "TxtFutR", "TxtOptR", "TxtPremium",
              "txtdelneutral", "TxtTotDel", "TxtBalance"]
     f = {n: "" for n in names}
-    f.update(TxtSymbol="RILK2026", TxtMktPrice=price, TxtDays=days, TxtImpVol="30", TxtImpVolP="32",
+    saved_clicked(f)
+    f.update(TxtSymbol="RILK2026", TxtMktPrice=price, TxtDays=days, TxtImpVol="30", TxtImpVolP=put_vol,
              TxtContract="250", TxtFutLots="5", TxtFutTrade="993.8", TxtComm="-150", TxtCashU="40",
              TxtCashR="-25", TxtFutR="0", txtdelneutral="3")
     return f
@@ -628,6 +643,7 @@ def index_fields(price, days):
     f = {n: "" for n in ["TxtSymbol", "TxtMktPrice", "TxtDays", "TxtImpVol", "TxtImpVolP", "TxtFutLots",
                          "TxtFutTrade", "TxtComm", "TxtCashU", "TxtCashR", "TxtFutR", "TxtOptR", "TxtPremium",
                          "txtdelneutral", "TxtBalance"]}
+    saved_clicked(f, index=True)
     f.update(TxtSymbol="NIFX2026", TxtMktPrice=price, TxtDays=days, TxtImpVol="20", TxtImpVolP="22",
              TxtFutLots="2", TxtFutTrade="6010", TxtComm="-80", TxtCashU="0", TxtCashR="0", TxtFutR="0",
              txtdelneutral="-4")
@@ -639,6 +655,10 @@ SCENARIOS = {
     "StockExpiry": lambda: Sheet(stock_fields("1000", "0"), stock_ladder(), stock_ledger(), 0.07, 250, 5),
     "IndexLive": lambda: Sheet(index_fields("6050", "17"), index_ladder(), index_ledger(), 0.08, index=True),
     "IndexExpiry": lambda: Sheet(index_fields("6100", "0"), index_ladder(), index_ledger(), 0.08, index=True),
+    # A put volatility above 50 % and a call held on the lowest strike: the scenarios' first row
+    # counts on 180, its walk starting with no put sigma.
+    "StockHighPutVol": lambda: Sheet(stock_fields("1070", "17", "55"), stock_ladder({(960, "C"): ("40", "50")}),
+                                     stock_ledger(), 0.07, 250, 5),
 }
 
 SHOWN = ["TxtDays", "TxtImpVolP", "TxtTotDel", "TxtTotGamma", "TxtTotVega", "TxtTotTheta", "TxtCallDelta",
@@ -647,6 +667,9 @@ SHOWN = ["TxtDays", "TxtImpVolP", "TxtTotDel", "TxtTotGamma", "TxtTotVega", "Txt
          "TxtGamHed", "TxtVegaPts", "TxtVegaHed", "TxtThePts", "TxtTheHed", "TxtAvgVol", "txtdelneutral",
          "TxtPremium", "TxtOptU", "TxtOptR", "TxtFutU", "TxtDelVal", "TxtGamVal", "TxtVegaVal", "TxtTheVal",
          "TxtBalance", "TxtEx_Magin"]
+
+
+SCENARIO_INPUTS = ["TxtImpVolP", "TxtPremium", "TxtOptR", "TxtFutR"]
 
 
 def main():
@@ -663,7 +686,8 @@ def main():
         s.refresh()
         print("")
         print("inline const std::pair<const char*, const char*> k%sFields[] = {" % name)
-        for n in SHOWN:
+        # The sheets added for the scenario walks show the figures the scenarios start from.
+        for n in SHOWN if name in ("StockLive", "StockExpiry", "IndexLive", "IndexExpiry") else SCENARIO_INPUTS:
             if n in s.f:
                 print('    {"%s", "%s"},' % (n, s.f[n]))
         print("};")
