@@ -5,6 +5,7 @@
 #include "admin/SheetOpening.h"
 #include "frame/App.h"
 #include "frame/ComProc.h"
+#include "frame/DeskDate.h"
 #include "frame/VbFormat.h"
 #include "frame/VbNumber.h"
 
@@ -256,6 +257,14 @@ void FrmNewScript::CmdOk_Click() {
         ui().msgBox({"Script Already Exists, Please Change the description", "Duplicate Entries",
                      MsgButtons::Ok, MsgIcon::Critical});
         setFocus("TxtDesc");
+        return;
+    }
+
+    // The expiry is read after the sheet's row is written: a date that cannot be read is refused
+    // here, while nothing is written yet.
+    if (!deskDate(Trim(text("DTPicker1")))) {
+        ui().msgBox({kDeskDateForms, "Entry Error", MsgButtons::Ok, MsgIcon::Critical});
+        setFocus("DTPicker1");
         return;
     }
 

@@ -104,6 +104,7 @@ const char* const kDetailColumns[] = {"Traded", "Last",     "Vol",  "Delta",   "
 
 void RiskSheet::SaveData() {
     trapped("SaveData", [this] {
+        const QuietSuccessNote saved(ui(), "Sheet saved");
         // Noted first: a save that fails part way no longer asks at close.
         SavedDelNeutral = Trim(text("txtdelneutral"));
         SavedBalance = Trim(text("TxtBalance"));

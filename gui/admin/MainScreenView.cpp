@@ -18,7 +18,7 @@ MainScreenView::MainScreenView() {
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list->verticalHeader()->hide();
     list->horizontalHeader()->setStretchLastSection(true);
-    list->setMinimumSize(560, 280);
+    list->setMinimumSize(640, 280);
 
     auto* buttons = new QHBoxLayout;
     for (const char* name :
