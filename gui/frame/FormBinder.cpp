@@ -207,8 +207,8 @@ void FormBinder::bindGrid(const std::string& name, QTableWidget& table) {
                 Grid& grid = form_.grid(name);
                 grid.activeRow = row + 1;
                 grid.activeCol = col + 1;
-                // In a list of whole rows, a row reached by the arrow keys is picked as a click picks it.
-                if (table.selectionBehavior() == QAbstractItemView::SelectRows && row >= 0 && row != before &&
+                // In a list view (not a grid), a row reached by the arrow keys is picked as a click picks it.
+                if (table.property(kPickedByKeys).toBool() && row >= 0 && row != before &&
                     QApplication::mouseButtons() == Qt::NoButton)
                     cellEvent(name, EventType::Click, row, col);
             });
@@ -347,7 +347,10 @@ void FormBinder::showGrid(const std::string& name, GridView& view) {
         const int c = col - 1;
         QTableWidgetItem* head = table.horizontalHeaderItem(c);
         if (!head) table.setHorizontalHeaderItem(c, head = new QTableWidgetItem);
-        if (head->text() != qs(column.heading)) head->setText(qs(column.heading));
+        if (head->text() != qs(column.heading)) {
+            head->setText(qs(column.heading));
+            head->setToolTip(head->text()); // a heading wider than its column reads whole on hover
+        }
         if (table.isColumnHidden(c) != column.hidden) table.setColumnHidden(c, column.hidden);
         double& shownWidth = view.widths[static_cast<size_t>(c)];
         if (shownWidth != column.width) {
@@ -434,7 +437,8 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
     if (it == names_.end()) return false;
     auto* table = qobject_cast<QTableWidget*>(watched);
     // An Enter the cell's editor let through comes back once the editor has committed the cell.
-    if (table && QApplication::focusWidget() != table)
+    const QWidget* typing = QApplication::focusWidget();
+    if (table && typing && typing != table && table->isAncestorOf(typing))
         return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     return keyPressed(it->second, *static_cast<QWidget*>(watched), key);
 }
@@ -517,6 +521,11 @@ bool FormBinder::keyPressed(const std::string& name, QWidget& widget, QKeyEvent&
     const QPointer<QWidget> alive(&widget);
     const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     if (enter && dateFields_.count(name) && !commitDate(name, false)) return true;
+    // Enter on a list view acts on the row the dealer sees chosen, though no key moved to it.
+    if (auto* list = qobject_cast<QTableWidget*>(&widget);
+        enter && list && list->property(kPickedByKeys).toBool() && list->currentRow() >= 0)
+        cellEvent(name, EventType::Click, list->currentRow(), list->currentColumn());
+    if (!alive) return true;
     Event down{EventType::KeyDown};
     down.keyCode = deskKeyCode(key);
     down.shift = deskShift(key.modifiers());

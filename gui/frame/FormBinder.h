@@ -23,6 +23,10 @@ class QWidget;
 
 namespace tallimark {
 
+// A table with this property set true is a list view: a row reached by the arrow keys is
+// clicked, as the desk's list views report it; a grid's rows are clicked by the mouse alone.
+inline constexpr const char* kPickedByKeys = "pickedByKeys";
+
 class FormBinder : public QObject, public Form::Listener {
 public:
     // Finds the bound children of root; the binder lives and dies with root.

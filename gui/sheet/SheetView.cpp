@@ -62,7 +62,8 @@ QGroupBox* pairs(Form& form, const char* title, const char* boxName, const Names
         if (!form.hasControl(f)) continue;
         const int line = at / perLine, col = (at % perLine) * 2;
         grid->addWidget(caption(form, f, nullptr), line, col, Qt::AlignRight);
-        grid->addWidget(figureField(f, 74), line, col + 1);
+        // The calendar's button takes room of its own beside the date.
+        grid->addWidget(figureField(f, std::string(f) == "DTPicker1" ? 96 : 74), line, col + 1);
         ++at;
     }
     darkFields(*box);
