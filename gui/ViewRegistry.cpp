@@ -21,6 +21,7 @@
 #include "frame/FormBinder.h"
 #include "frame/MDIForm1.h"
 #include "frame/MainWindow.h"
+#include "frame/ScreenMenu.h"
 #include "pricing/CalcView.h"
 #include "pricing/FrmCalc.h"
 #include "sheet/FrmSettingStrike.h"
@@ -80,6 +81,8 @@ const std::map<std::string, Maker, std::less<>> kViews = {
 View makeView(Form& form) {
     auto it = kViews.find(form.name());
     QWidget* widget = it != kViews.end() ? it->second(form) : make<CaptionView>(form);
+    // The frame's menus are its own bar; every other screen's menu is held for the frame to show.
+    if (!dynamic_cast<MainWindow*>(widget)) makeScreenMenu(form, *widget);
     return {widget, new FormBinder(form, *widget)};
 }
 

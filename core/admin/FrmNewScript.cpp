@@ -5,6 +5,7 @@
 #include "admin/SheetOpening.h"
 #include "frame/App.h"
 #include "frame/ComProc.h"
+#include "frame/DeskDate.h"
 #include "frame/VbFormat.h"
 #include "frame/VbNumber.h"
 #include "sheet/FrmSettingStrike.h"
@@ -269,6 +270,14 @@ void FrmNewScript::CmdOk_Click() {
             setFocus(field);
             return;
         }
+
+    // The expiry is read after the sheet's row is written: a date that cannot be read is refused
+    // here, while nothing is written yet.
+    if (!deskDate(Trim(text("DTPicker1")))) {
+        ui().msgBox({kDeskDateForms, "Entry Error", MsgButtons::Ok, MsgIcon::Critical});
+        setFocus("DTPicker1");
+        return;
+    }
 
     Session& s = app().session();
     const VbDate today = app().clock().today();

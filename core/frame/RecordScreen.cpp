@@ -90,15 +90,24 @@ void RecordScreen::addField(const std::string& field, std::string caption) {
 }
 
 void RecordScreen::addFieldKeys() {
+    std::string lastField;
+    for (const std::string& name : controlOrder())
+        if (hasControl(name) && control(name).kind == ControlKind::TextBox) lastField = name;
+    const std::string save = buttonArray_ + "(" + std::to_string(Save) + ")";
     for (const std::string& name : controlOrder()) {
         if (!hasControl(name)) continue;
         const ControlKind kind = control(name).kind;
         if (kind != ControlKind::TextBox && kind != ControlKind::Button) continue;
         const bool textBox = kind == ControlKind::TextBox;
         if (textBox) on(name, EventType::GotFocus, [this, name](Event&) { SelectAll(*this, name); });
-        on(name, EventType::KeyDown, [this, textBox](Event& e) {
+        // Enter after the last field goes to Save, what the record was typed for, not to the
+        // first button that happens to be enabled (Undo would throw the typing away).
+        const bool last = name == lastField;
+        on(name, EventType::KeyDown, [this, textBox, last, save](Event& e) {
             if (e.keyCode == keys::Escape)
                 hide();
+            else if (last && e.keyCode == keys::Enter && hasControl(save) && control(save).enabled)
+                setFocus(save);
             else if (textBox)
                 EnterAsTab(*this, e.keyCode);
         });

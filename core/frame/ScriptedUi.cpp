@@ -26,6 +26,7 @@ MsgAnswer ScriptedUi::msgBox(const MsgBox& box) {
         answer = answers_.front();
         answers_.pop_front();
     }
+    ++boxesShown_;
     boxes_.push_back({box, answer});
     if (boxListener_) boxListener_(boxes_.back());
     return answer;

@@ -35,12 +35,16 @@ public:
     void showForm(Form&) override {}
     void formHidden(Form&) override {}
     std::optional<std::string> fileDialog(const FileDialog& dialog) override;
+    // Batch prints no status notes: its output is the boxes and the figures. They are kept.
+    void statusMessage(const std::string& text) override { notes_.push_back(text); }
+    const std::vector<std::string>& statusMessages() const { return notes_; }
     [[noreturn]] void endProgram() override;
 
 private:
     std::deque<MsgAnswer> answers_;
     std::deque<std::optional<std::string>> files_;
     std::vector<ShownBox> boxes_;
+    std::vector<std::string> notes_;
     std::function<void(Form&)> modalRunner_;
     std::function<void(const ShownBox&)> boxListener_;
     int busy_ = 0;

@@ -2,8 +2,10 @@
 // The one small interface through which screen models talk to the person at the desk: message
 // boxes, the busy cursor, modal and modeless screens and file dialogs. The workstation answers
 // with real dialogs; the batch driver and the tests answer from a script.
+#include <exception>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace tallimark {
 
@@ -48,8 +50,32 @@ public:
     virtual void formHidden(Form& form) = 0;
     // The chosen path, or nothing when the user cancelled.
     virtual std::optional<std::string> fileDialog(const FileDialog& dialog) = 0;
+    // A note in the frame's status line for a few seconds: news that wants no answer.
+    virtual void statusMessage(const std::string& text) = 0;
+    // Boxes shown so far, so that a step can tell whether it went through without one.
+    int boxesShown() const { return boxesShown_; }
     // End: the process stops here.
     [[noreturn]] virtual void endProgram() = 0;
+
+protected:
+    int boxesShown_ = 0; // counted by msgBox
+};
+
+// Says a step went through, in the status line, when its scope ends with no box shown meanwhile
+// and nothing thrown: a save that worked is told, one that failed has said so in its box.
+class QuietSuccessNote {
+public:
+    QuietSuccessNote(Ui& ui, std::string text) : ui_(ui), text_(std::move(text)), boxes_(ui.boxesShown()) {}
+    ~QuietSuccessNote() {
+        if (ui_.boxesShown() == boxes_ && std::uncaught_exceptions() == 0) ui_.statusMessage(text_);
+    }
+    QuietSuccessNote(const QuietSuccessNote&) = delete;
+    QuietSuccessNote& operator=(const QuietSuccessNote&) = delete;
+
+private:
+    Ui& ui_;
+    std::string text_;
+    int boxes_;
 };
 
 } // namespace tallimark

@@ -112,6 +112,7 @@ void RiskSheet::SaveData() {
         return;
     }
     trapped("SaveData", [this] {
+        const QuietSuccessNote saved(ui(), "Sheet saved");
         // Noted first: a save that fails part way no longer asks at close.
         SavedDelNeutral = Trim(text("txtdelneutral"));
         SavedBalance = Trim(text("TxtBalance"));

@@ -20,7 +20,10 @@ QTableWidget* rowList(const char* name) {
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->verticalHeader()->hide();
-    table->setMinimumSize(460, 280);
+    // Names and codes are read whole: the columns take their longest entry.
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->setMinimumSize(560, 300);
     return table;
 }
 } // namespace

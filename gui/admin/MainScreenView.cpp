@@ -1,5 +1,6 @@
 #include "admin/MainScreenView.h"
 
+#include "frame/FormBinder.h"
 #include "frame/Named.h"
 
 #include <QHBoxLayout>
@@ -16,9 +17,10 @@ MainScreenView::MainScreenView() {
     list->setSelectionBehavior(QAbstractItemView::SelectRows);
     list->setSelectionMode(QAbstractItemView::SingleSelection);
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setProperty(kPickedByKeys, true);
     list->verticalHeader()->hide();
     list->horizontalHeader()->setStretchLastSection(true);
-    list->setMinimumSize(560, 280);
+    list->setMinimumSize(640, 280);
 
     auto* buttons = new QHBoxLayout;
     for (const char* name :

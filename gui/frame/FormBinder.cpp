@@ -1,7 +1,13 @@
 #include "frame/FormBinder.h"
 
+#include "frame/AccessKeys.h"
+#include "frame/DateField.h"
+#include "frame/DeskDate.h"
 #include "frame/DeskKeys.h"
 #include "frame/Dispatch.h"
+#include "frame/GridDelegate.h"
+#include "frame/ScreenMenu.h"
+#include "frame/Ui.h"
 
 #include <QAction>
 #include <QApplication>
@@ -15,7 +21,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QTableWidget>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -58,8 +66,10 @@ void showCell(QTableWidgetItem& item, const Cell& cell, Qt::ItemFlags flags, boo
     if (item.flags() != flags) item.setFlags(flags);
     setItemData(item, Qt::ForegroundRole, brush(cell.fore));
     setItemData(item, Qt::BackgroundRole, brush(cell.back));
-    if (checkable && item.checkState() != (cell.checked ? Qt::Checked : Qt::Unchecked))
-        item.setCheckState(cell.checked ? Qt::Checked : Qt::Unchecked);
+    // A box shows only once it has a state: an unticked one is set too.
+    const Qt::CheckState state = cell.checked ? Qt::Checked : Qt::Unchecked;
+    if (checkable && (!item.data(Qt::CheckStateRole).isValid() || item.checkState() != state))
+        item.setCheckState(state);
 }
 
 void showCombo(QComboBox& combo, const Control& control) {
@@ -81,9 +91,38 @@ void showCombo(QComboBox& combo, const Control& control) {
     }
 }
 
-// Grid widths count characters, as the desk's grids do.
+// An Alt key is offered as a shortcut (ShortcutOverride) and then, unless a shortcut took it,
+// pressed. The screen hears its KeyDown at the offer; the press that follows is known by its
+// time stamp, and swallowed when the screen took the key.
+struct AltKey {
+    ulong stamp = 0;
+    int key = 0;
+    bool taken = false;
+};
+std::optional<AltKey> altKeyMark;
+
+bool altKeySeen(const QKeyEvent& key) {
+    return altKeyMark && altKeyMark->stamp == key.timestamp() && altKeyMark->key == key.key();
+}
+
+void markAltKey(const QKeyEvent& key, bool taken) {
+    altKeyMark = AltKey{key.timestamp(), key.key(), taken};
+}
+
+// For the press of a key offered before: whether it is done with (swallowed: taken, asked with
+// whole) or had its KeyDown already (asked without whole). The mark goes with the press.
+bool altKeyDone(const QKeyEvent& key, bool whole) {
+    if (!altKeySeen(key)) return false;
+    const bool taken = altKeyMark->taken;
+    if (whole && !taken) return false;
+    altKeyMark.reset();
+    return true;
+}
+
+// Grid widths count characters, as the desk's grids do; a digit's width, so that a figure of
+// that many characters fits.
 int columnPixels(const QTableWidget& table, double width) {
-    return static_cast<int>(width * table.fontMetrics().averageCharWidth()) + 8;
+    return static_cast<int>(width * table.fontMetrics().horizontalAdvance(QLatin1Char('0'))) + 8;
 }
 
 } // namespace
@@ -100,6 +139,8 @@ FormBinder::FormBinder(Form& form, QWidget& root) : QObject(&root), form_(form),
             bindControl(name, *child);
     }
     setTabOrder();
+    // Alt keys from a part of the view the binder does not know still reach the screen.
+    root.installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focusIn(now); });
 }
 
@@ -112,7 +153,12 @@ void FormBinder::bindControl(const std::string& name, QObject& object) {
         return;
     }
     object.installEventFilter(this);
-    if (auto* edit = qobject_cast<QLineEdit*>(&object)) {
+    if (auto* edit = qobject_cast<QLineEdit*>(&object);
+        edit && form_.control(name).kind == ControlKind::DatePicker) {
+        // A date reaches the model whole, when the dealer is done with it, never as half a date.
+        dateFields_.insert(name);
+        addCalendar(*edit, [this, name] { commitDate(name, false); });
+    } else if (edit) {
         connect(edit, &QLineEdit::textEdited, this, [this, name](const QString& text) {
             act([&] {
                 mirrorSelection(name);
@@ -149,26 +195,37 @@ void FormBinder::bindGrid(const std::string& name, QTableWidget& table) {
     grids_[name] = {&table, {}};
     names_[&table] = name;
     table.installEventFilter(this);
+    table.setItemDelegate(new GridDelegate(&table, [this, name] { enterAfterEdit(name); }));
     connect(&table, &QTableWidget::cellClicked, this,
             [this, name](int row, int col) { cellEvent(name, EventType::Click, row, col); });
     connect(&table, &QTableWidget::cellDoubleClicked, this,
             [this, name](int row, int col) { cellEvent(name, EventType::DblClick, row, col); });
-    connect(&table, &QTableWidget::currentCellChanged, this, [this, name](int row, int col) {
-        // The handlers read the active cell as the desk sees it.
-        if (!attached_ || showing_) return;
-        Grid& grid = form_.grid(name);
-        grid.activeRow = row + 1;
-        grid.activeCol = col + 1;
-    });
+    connect(&table, &QTableWidget::currentCellChanged, this,
+            [this, name, &table](int row, int col, int before) {
+                // The handlers read the active cell as the desk sees it.
+                if (!attached_ || showing_) return;
+                Grid& grid = form_.grid(name);
+                grid.activeRow = row + 1;
+                grid.activeCol = col + 1;
+                // In a list view (not a grid), a row reached by the arrow keys is picked as a click picks it.
+                if (table.property(kPickedByKeys).toBool() && row >= 0 && row != before &&
+                    QApplication::mouseButtons() == Qt::NoButton)
+                    cellEvent(name, EventType::Click, row, col);
+            });
     connect(&table, &QTableWidget::itemChanged, this,
             [this, name](QTableWidgetItem* item) { cellEdited(name, *item); });
 }
 
 void FormBinder::setTabOrder() {
     QWidget* previous = nullptr;
+    std::vector<QLabel*> waiting; // labels before their control
     for (const std::string& name : form_.controlOrder()) {
         QWidget* widget = widgetOf(name);
+        if (auto* label = qobject_cast<QLabel*>(widget)) waiting.push_back(label);
         if (!widget || widget->focusPolicy() == Qt::NoFocus) continue;
+        for (QLabel* label : waiting)
+            label->setBuddy(widget);
+        waiting.clear();
         if (previous) QWidget::setTabOrder(previous, widget);
         previous = widget;
     }
@@ -219,7 +276,7 @@ void FormBinder::showControl(const std::string& name) {
     QObject* object = controls_.at(name);
     const QString text = qs(control.text);
     if (auto* action = qobject_cast<QAction*>(object)) {
-        action->setText(text);
+        action->setText(menuText(control.text));
         action->setEnabled(control.enabled);
         action->setVisible(control.visible);
         return;
@@ -290,12 +347,18 @@ void FormBinder::showGrid(const std::string& name, GridView& view) {
         const int c = col - 1;
         QTableWidgetItem* head = table.horizontalHeaderItem(c);
         if (!head) table.setHorizontalHeaderItem(c, head = new QTableWidgetItem);
-        if (head->text() != qs(column.heading)) head->setText(qs(column.heading));
+        if (head->text() != qs(column.heading)) {
+            head->setText(qs(column.heading));
+            head->setToolTip(head->text()); // a heading wider than its column reads whole on hover
+        }
         if (table.isColumnHidden(c) != column.hidden) table.setColumnHidden(c, column.hidden);
         double& shownWidth = view.widths[static_cast<size_t>(c)];
         if (shownWidth != column.width) {
             shownWidth = column.width;
-            table.setColumnWidth(c, columnPixels(table, column.width));
+            // The check box takes its room in front of the text, not out of it.
+            const int box =
+                grid.checkBoxes && col == 1 ? table.style()->pixelMetric(QStyle::PM_IndicatorWidth) + 8 : 0;
+            table.setColumnWidth(c, columnPixels(table, column.width) + box);
         }
     }
     for (int col = 1; col <= grid.maxCols(); ++col) {
@@ -347,19 +410,127 @@ void FormBinder::focusIn(QWidget* now) {
 }
 
 bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::KeyPress || !attached_ || reinjecting_) return false;
+    if (!attached_ || reinjecting_) return false;
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        return altKey(watched, *static_cast<QKeyEvent*>(event));
+    case QEvent::FocusIn:
+        entered(watched, static_cast<QFocusEvent*>(event)->reason());
+        return false;
+    case QEvent::MouseButtonPress:
+        // The click that entered a field would put the caret where it landed.
+        if (watched != mouseEntered_) return false;
+        mouseEntered_ = nullptr;
+        return true;
+    case QEvent::FocusOut:
+        if (auto it = names_.find(watched); it != names_.end() && dateFields_.count(it->second))
+            commitDate(it->second, true);
+        return false;
+    case QEvent::KeyPress:
+        break;
+    default:
+        return false;
+    }
+    auto& key = *static_cast<QKeyEvent*>(event);
+    if (altKeyDone(key, true)) return true;
     auto it = names_.find(watched);
     if (it == names_.end()) return false;
-    const std::string name = it->second;
-    return keyPressed(name, *static_cast<QWidget*>(watched), *static_cast<QKeyEvent*>(event));
+    auto* table = qobject_cast<QTableWidget*>(watched);
+    // An Enter the cell's editor let through comes back once the editor has committed the cell.
+    const QWidget* typing = QApplication::focusWidget();
+    if (table && typing && typing != table && table->isAncestorOf(typing))
+        return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    return keyPressed(it->second, *static_cast<QWidget*>(watched), key);
+}
+
+bool FormBinder::altKey(QObject* watched, QKeyEvent& key) {
+    const bool alt =
+        key.modifiers().testFlag(Qt::AltModifier) && !key.modifiers().testFlag(Qt::ControlModifier);
+    const bool letter = (key.key() >= Qt::Key_A && key.key() <= Qt::Key_Z) ||
+                        (key.key() >= Qt::Key_0 && key.key() <= Qt::Key_9);
+    if (!alt || !letter || altKeySeen(key)) return false;
+    // Alt and a letter belong to the screen first: its key handlers, then the access letters of
+    // its buttons and labels. What the screen leaves open goes on to the menus.
+    auto it = names_.find(watched);
+    const std::string name = it != names_.end()        ? it->second
+                             : form_.focused().empty() ? "Form"
+                                                       : form_.focused();
+    Event down{EventType::KeyDown};
+    down.keyCode = deskKeyCode(key);
+    down.shift = deskShift(key.modifiers());
+    act([&] {
+        if (controls_.count(name)) mirrorSelection(name);
+        down = form_.fire(name, down);
+    });
+    const bool taken = down.keyCode == 0 || !attached_ || pressAccessKey(root_, key.key());
+    markAltKey(key, taken);
+    if (taken) key.accept();
+    return taken;
+}
+
+void FormBinder::entered(QObject* watched, Qt::FocusReason reason) {
+    auto* edit = qobject_cast<QLineEdit*>(watched);
+    if (!edit || !names_.count(watched) || reason == Qt::ActiveWindowFocusReason ||
+        reason == Qt::PopupFocusReason)
+        return;
+    // Entering a field selects its whole text, so that what is typed replaces it.
+    edit->selectAll();
+    mouseEntered_ = reason == Qt::MouseFocusReason ? edit : nullptr;
+}
+
+bool FormBinder::commitDate(const std::string& name, bool leaving) {
+    auto* edit = qobject_cast<QLineEdit*>(controls_.at(name));
+    const QString held = qs(form_.control(name).text);
+    if (refusingDate_ || edit->text() == held) return true;
+    if (const std::optional<QString> date = screenDate(edit->text())) {
+        edit->setText(*date);
+        act([&] { form_.setText(name, date->toStdString()); });
+        return true;
+    }
+    edit->setText(held);
+    const auto refuse = [this, edit = QPointer<QLineEdit>(edit)] {
+        refusingDate_ = true;
+        form_.ui().msgBox({kDeskDateForms, "Entry Error", MsgButtons::Ok, MsgIcon::Critical});
+        refusingDate_ = false;
+        if (edit && attached_) edit->setFocus(Qt::OtherFocusReason);
+    };
+    // Leaving the field, the box waits until the focus has moved, then brings it back.
+    if (leaving)
+        QTimer::singleShot(0, this, refuse);
+    else
+        refuse();
+    return false;
+}
+
+bool FormBinder::toggleCheck(QTableWidget& table) {
+    // The row's box, whichever of its cells is current.
+    QTableWidgetItem* box = table.item(table.currentRow(), 0);
+    if (!box || !box->flags().testFlag(Qt::ItemIsUserCheckable)) return false;
+    box->setCheckState(box->checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+    return true;
+}
+
+void FormBinder::enterAfterEdit(const std::string& name) {
+    auto it = grids_.find(name);
+    if (it == grids_.end() || !attached_) return;
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+    keyPressed(name, *it->second.table, enter);
 }
 
 bool FormBinder::keyPressed(const std::string& name, QWidget& widget, QKeyEvent& key) {
     const QPointer<QWidget> alive(&widget);
+    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (enter && dateFields_.count(name) && !commitDate(name, false)) return true;
+    // Enter on a list view acts on the row the dealer sees chosen, though no key moved to it.
+    if (auto* list = qobject_cast<QTableWidget*>(&widget);
+        enter && list && list->property(kPickedByKeys).toBool() && list->currentRow() >= 0)
+        cellEvent(name, EventType::Click, list->currentRow(), list->currentColumn());
+    if (!alive) return true;
     Event down{EventType::KeyDown};
     down.keyCode = deskKeyCode(key);
     down.shift = deskShift(key.modifiers());
-    if (down.keyCode != 0) {
+    // An Alt key's KeyDown went to the screen when the key was offered as a shortcut.
+    if (down.keyCode != 0 && !altKeyDone(key, false)) {
         act([&] {
             if (controls_.count(name)) mirrorSelection(name);
             down = form_.fire(name, down);
@@ -382,7 +553,8 @@ bool FormBinder::keyPressed(const std::string& name, QWidget& widget, QKeyEvent&
             return true;
         }
     }
-    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (auto* table = qobject_cast<QTableWidget*>(&widget); table && key.key() == Qt::Key_Space)
+        if (toggleCheck(*table)) return true;
     if (auto* button = qobject_cast<QPushButton*>(&widget); button && enter) {
         button->click();
         return true;

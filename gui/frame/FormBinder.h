@@ -6,6 +6,7 @@
 #include "frame/Form.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 #include <map>
@@ -21,6 +22,10 @@ class QLineEdit;
 class QWidget;
 
 namespace tallimark {
+
+// A table with this property set true is a list view: a row reached by the arrow keys is
+// clicked, as the desk's list views report it; a grid's rows are clicked by the mouse alone.
+inline constexpr const char* kPickedByKeys = "pickedByKeys";
 
 class FormBinder : public QObject, public Form::Listener {
 public:
@@ -45,6 +50,7 @@ private:
 
     void bindControl(const std::string& name, QObject& object);
     void bindGrid(const std::string& name, QTableWidget& table);
+    // Tab order as the model's; a label's access letter leads to the control after it.
     void setTabOrder();
 
     QWidget* widgetOf(const std::string& name) const;
@@ -58,6 +64,12 @@ private:
     void act(const std::function<void()>& action);
     void focusIn(QWidget* now);
     bool keyPressed(const std::string& name, QWidget& widget, QKeyEvent& key);
+    bool altKey(QObject* watched, QKeyEvent& key);
+    void entered(QObject* watched, Qt::FocusReason reason);
+    // A typed date reaches the model in the screen's form, or is refused and the model's stays.
+    bool commitDate(const std::string& name, bool leaving);
+    bool toggleCheck(QTableWidget& table);
+    void enterAfterEdit(const std::string& name);
     void cellEvent(const std::string& name, EventType type, int row, int col);
     void cellEdited(const std::string& name, const QTableWidgetItem& item);
     void mirrorSelection(const std::string& name);
@@ -69,6 +81,9 @@ private:
     std::map<QObject*, std::string> names_;
     std::map<std::string, std::optional<Rgb>> foreShown_;
     std::map<std::string, std::pair<int, int>> selectionKnown_; // a field's selection as the view last saw it
+    std::set<std::string> dateFields_;
+    QPointer<QLineEdit> mouseEntered_; // entered by a click: the click must not undo the selection
+    bool refusingDate_ = false;
     bool attached_ = false;
     bool showing_ = false;     // model to widget: the widgets' own signals are not the user's
     bool reinjecting_ = false; // a key a handler changed goes back to its widget untouched

@@ -1,13 +1,11 @@
 #include "frame/MainWindow.h"
 
-#include "frame/Form.h"
+#include "frame/ScreenMenu.h"
 
 #include <QMdiArea>
-#include <QMenu>
+#include <QMdiSubWindow>
 #include <QMenuBar>
-
-#include <map>
-#include <set>
+#include <QStatusBar>
 
 namespace tallimark {
 
@@ -16,30 +14,32 @@ MainWindow::MainWindow(Form& form) : mdiArea_(new QMdiArea) {
     // A sheet is wider than a small screen: the frame scrolls to the rest of it.
     mdiArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     mdiArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    // The menus are the model's Menu controls in their order; an entry that others stand under
-    // is a menu of its own. The binder gives them their captions.
-    std::vector<const Control*> menus;
-    std::set<std::string> heads;
-    for (const std::string& name : form.controlOrder())
-        if (form.hasControl(name) && form.control(name).kind == ControlKind::Menu) {
-            menus.push_back(&form.control(name));
-            if (!menus.back()->menuParent.empty()) heads.insert(menus.back()->menuParent);
-        }
-    std::map<std::string, QMenu*> opened;
-    for (const Control* menu : menus) {
-        QWidget* owner =
-            menu->menuParent.empty() ? static_cast<QWidget*>(menuBar()) : opened.at(menu->menuParent);
-        QAction* action = nullptr;
-        if (heads.count(menu->name)) {
-            QMenu* sub = opened[menu->name] = new QMenu(owner);
-            action = sub->menuAction();
-        } else {
-            action = new QAction(owner);
-        }
-        owner->addAction(action);
-        action->setObjectName(QString::fromStdString(menu->name));
-    }
+    // A closed screen hands the desk back to the one used before it, not to the oldest.
+    mdiArea_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+    addMenus(form, *menuBar());
+    frameMenus_ = menuBar()->actions();
+    statusBar();
+    connect(mdiArea_, &QMdiArea::subWindowActivated, this, &MainWindow::showMenuOf);
     resize(1100, 760);
+}
+
+MainWindow::~MainWindow() {
+    // The area's windows close with the frame and would report a frame half gone.
+    disconnect(mdiArea_, nullptr, this, nullptr);
+}
+
+void MainWindow::showMenuOf(QMdiSubWindow* active) {
+    // Nothing active while a screen is still up is the frame losing the keyboard to a dialog:
+    // the bar stays as it is.
+    if (!active)
+        for (const QMdiSubWindow* sub : mdiArea_->subWindowList())
+            if (sub->isVisible()) return;
+    const QWidget* menu = active && active->widget() ? screenMenuOf(*active->widget()) : nullptr;
+    const QList<QAction*> wanted = menu ? menu->actions() : frameMenus_;
+    if (menuBar()->actions() == wanted) return;
+    for (QAction* action : menuBar()->actions())
+        menuBar()->removeAction(action);
+    menuBar()->addActions(wanted);
 }
 
 } // namespace tallimark

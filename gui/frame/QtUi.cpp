@@ -6,6 +6,7 @@
 #include "frame/Form.h"
 #include "frame/FormBinder.h"
 #include "frame/MainWindow.h"
+#include "frame/ScreenMenu.h"
 #include "frame/ScriptedUi.h"
 
 #include <QApplication>
@@ -13,11 +14,15 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPointer>
+#include <QScreen>
+#include <QStatusBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -100,10 +105,12 @@ void followFixedSize(QWidget& host, const QWidget& view) {
 }
 
 // The area puts a new window beside the others, sized before its view has laid itself out: once
-// it has, the window is moved back inside the area where it fits.
+// it has, the window is moved back inside the area, and a window larger than the area is cut
+// to it (its view is laid out to be used at that size).
 void keepInside(QMdiSubWindow& sub) {
     QTimer::singleShot(0, &sub, [&sub] {
         const QSize area = sub.mdiArea()->viewport()->size();
+        sub.resize(sub.size().expandedTo(sub.sizeHint()).boundedTo(area));
         sub.move(std::max(0, std::min(sub.x(), area.width() - sub.width())),
                  std::max(0, std::min(sub.y(), area.height() - sub.height())));
     });
@@ -116,6 +123,7 @@ QtUi::QtUi(Answerer answerer) : answerer_(std::move(answerer)) {}
 QtUi::~QtUi() {
     // The models may be gone already: stop every view first, then close the windows, the
     // subwindows going with the main frame.
+    if (main_) disconnect(&main_->mdiArea(), nullptr, this, nullptr);
     std::vector<QPointer<QWidget>> hosts;
     for (auto& [form, shown] : shown_) {
         shown.binder->detach();
@@ -126,6 +134,7 @@ QtUi::~QtUi() {
 }
 
 MsgAnswer QtUi::msgBox(const MsgBox& box) {
+    ++boxesShown_;
     if (answerer_) return answerer_(box);
     QMessageBox message(iconOf(box.icon), qs(box.title), qs(box.text), buttonsOf(box.buttons),
                         activeWindow());
@@ -168,6 +177,11 @@ void QtUi::showModal(Form& form) {
     auto* dialog = new ModalDialog(activeWindow());
     auto* layout = new QVBoxLayout(dialog);
     layout->setContentsMargins(0, 0, 0, 0);
+    if (const QWidget* menu = screenMenuOf(*view.widget)) {
+        auto* bar = new QMenuBar;
+        bar->addActions(menu->actions());
+        layout->setMenuBar(bar);
+    }
     layout->addWidget(view.widget);
     followFixedSize(*dialog, *view.widget);
     connect(view.widget, &QWidget::windowTitleChanged, dialog, &QWidget::setWindowTitle);
@@ -188,9 +202,11 @@ void QtUi::showForm(Form& form) {
     }
     View view = makeView(form);
     QWidget* host = view.widget;
-    if (auto* frame = dynamic_cast<MainWindow*>(view.widget))
+    const bool wasPresenting = std::exchange(presenting_, true);
+    if (auto* frame = dynamic_cast<MainWindow*>(view.widget)) {
         main_ = frame;
-    else if (main_) {
+        connect(&frame->mdiArea(), &QMdiArea::subWindowActivated, this, &QtUi::subWindowActivated);
+    } else if (main_) {
         QMdiSubWindow* sub = main_->mdiArea().addSubWindow(view.widget);
         keepInside(*sub);
         host = sub;
@@ -199,10 +215,32 @@ void QtUi::showForm(Form& form) {
     followFixedSize(*host, *view.widget);
     present(form, host, view.widget, view.binder, nullptr);
     // The frame the desk works in all day takes the whole screen.
-    if (host == main_)
+    if (host == main_) {
+        // Sized to the screen as well: without a window manager maximising does nothing.
+        if (const QScreen* screen = QGuiApplication::primaryScreen())
+            host->setGeometry(screen->availableGeometry());
         host->showMaximized();
-    else
+    } else
         host->show();
+    if (qobject_cast<QMdiSubWindow*>(host)) lastActive_ = host;
+    presenting_ = wasPresenting;
+}
+
+void QtUi::subWindowActivated(QWidget* sub) {
+    // Nothing active is the frame losing the keyboard to a dialog; coming back to the same
+    // window from one is no change of screen.
+    if (!sub || sub == lastActive_ || presenting_) return;
+    lastActive_ = sub;
+    for (const auto& [form, shown] : shown_)
+        if (shown.host == sub) {
+            Form& activated = *form;
+            dispatch(activated, [&activated] { activated.fire("Form", EventType::Activate); });
+            return;
+        }
+}
+
+void QtUi::statusMessage(const std::string& text) {
+    if (main_) main_->statusBar()->showMessage(qs(text), 4000);
 }
 
 void QtUi::formHidden(Form& form) {
@@ -213,13 +251,17 @@ void QtUi::formHidden(Form& form) {
         return;
     }
     shown.host->hide();
+    if (shown.host == lastActive_) lastActive_ = nullptr;
     if (auto* sub = qobject_cast<QMdiSubWindow*>(shown.host)) sub->mdiArea()->removeSubWindow(sub);
     // Not at once: the window's own event may be what hid the screen.
     shown.host->deleteLater();
 }
 
 bool QtUi::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::Close) return false;
+    // Esc that no control of a screen took (a screen of a caption alone has none) closes it.
+    const bool escape = event->type() == QEvent::KeyPress &&
+                        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && watched != main_;
+    if (event->type() != QEvent::Close && !escape) return false;
     for (const auto& [form, shown] : shown_) {
         if (shown.host != watched) continue;
         event->ignore();

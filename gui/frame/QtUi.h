@@ -30,6 +30,7 @@ public:
     void showForm(Form& form) override;
     void formHidden(Form& form) override;
     std::optional<std::string> fileDialog(const FileDialog& dialog) override;
+    void statusMessage(const std::string& text) override;
     [[noreturn]] void endProgram() override;
 
     // The view of a screen while it is shown, else nullptr.
@@ -51,10 +52,14 @@ private:
     // Forgets a shown screen and stops its view; the caller disposes of the window.
     Shown release(Form& form);
     QWidget* activeWindow() const;
+    // A screen's window became the active one of the frame: the screen hears Activate.
+    void subWindowActivated(QWidget* sub);
 
     Answerer answerer_;
     std::map<Form*, Shown> shown_;
     MainWindow* main_ = nullptr;
+    QWidget* lastActive_ = nullptr; // the frame's window the desk last worked in
+    bool presenting_ = false;       // a screen being shown says Activate itself
     bool busy_ = false;
 };
 

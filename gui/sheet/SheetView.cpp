@@ -9,7 +9,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -34,28 +33,37 @@ void darkFields(QWidget& box) {
 QLineEdit* figureField(const char* name, int width) {
     auto* edit = named<QLineEdit>(name);
     edit->setFixedWidth(width);
+    // Figures line up on their last digit; the symbol and the dates read from the left.
+    const std::string field = name;
+    if (field != "TxtSymbol" && field != "TxtExpDt" && field != "TxtCurDt" && field != "DTPicker1")
+        edit->setAlignment(Qt::AlignRight);
     return edit;
 }
 
-// The model's caption label of a field when it has one, else the given words.
+// The model's caption label of a field when it has one, else the given words; the lot size and
+// the calendar have no label on the screen, and a field without a caption is a guess.
 QLabel* caption(Form& form, const char* field, const char* otherwise) {
     const std::string label = std::string("Label_") + field;
     if (form.hasControl(label)) return named<QLabel>(label.c_str());
-    return new QLabel(QString::fromLatin1(otherwise ? otherwise : ""));
+    const std::string name = field;
+    if (!otherwise) otherwise = name == "TxtContract" ? "Lot" : name == "DTPicker1" ? "Date" : "";
+    return new QLabel(QString::fromLatin1(otherwise));
 }
 
 // Caption and field pairs, so many to a line; the fields the sheet kind lacks are left out.
 QGroupBox* pairs(Form& form, const char* title, const char* boxName, const Names& fields, int perLine) {
     auto* box = boxName ? named<QGroupBox>(boxName) : new QGroupBox(QString::fromLatin1(title));
     auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(4, 2, 4, 2);
     grid->setHorizontalSpacing(6);
-    grid->setVerticalSpacing(2);
+    grid->setVerticalSpacing(1);
     int at = 0;
     for (const char* f : fields) {
         if (!form.hasControl(f)) continue;
         const int line = at / perLine, col = (at % perLine) * 2;
         grid->addWidget(caption(form, f, nullptr), line, col, Qt::AlignRight);
-        grid->addWidget(figureField(f, 78), line, col + 1);
+        // The calendar's button takes room of its own beside the date.
+        grid->addWidget(figureField(f, std::string(f) == "DTPicker1" ? 96 : 74), line, col + 1);
         ++at;
     }
     darkFields(*box);
@@ -67,8 +75,9 @@ QGroupBox* table(Form& form, const char* title, const Names& lineHeads, const st
                  const Names& columnHeads, int width, const char* boxName = nullptr) {
     auto* box = boxName ? named<QGroupBox>(boxName) : new QGroupBox(QString::fromLatin1(title));
     auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(4, 2, 4, 2);
     grid->setHorizontalSpacing(6);
-    grid->setVerticalSpacing(2);
+    grid->setVerticalSpacing(1);
     for (size_t c = 0; c < columnHeads.size(); ++c)
         grid->addWidget(caption(form, lines[0][c], columnHeads[c]), 0, static_cast<int>(c) + 1,
                         Qt::AlignCenter);
@@ -93,27 +102,22 @@ QTableWidget* ladder() {
     grid->verticalHeader()->setDefaultSectionSize(18);
     grid->horizontalHeader()->setMinimumSectionSize(20);
     grid->setSelectionMode(QAbstractItemView::SingleSelection);
-    // The columns share the width: a dealer reads the whole ladder without scrolling sideways.
-    grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    // The columns as wide as the sheet sets them, the last taking what is left; a figure wider
+    // than its column shows whole on hover.
+    grid->horizontalHeader()->setStretchLastSection(true);
     QFont font = grid->font();
     font.setPointSizeF(font.pointSizeF() - 1);
     grid->setFont(font);
-    grid->setMinimumSize(760, 420);
+    grid->setMinimumSize(600, 300);
+    // The ladder's first row holds no strike: the desk's grid showed its headings there.
+    QObject::connect(grid->model(), &QAbstractItemModel::rowsInserted, grid,
+                     [grid] { grid->setRowHidden(0, true); });
     return grid;
 }
 
 } // namespace
 
 SheetView::SheetView(Form& form) {
-    // The menu only presses the toolbar: its entries stand on the bar itself.
-    auto* menus = new QMenuBar;
-    for (const std::string& name : form.controlOrder())
-        if (form.hasControl(name) && form.control(name).kind == ControlKind::Menu) {
-            auto* action = new QAction(menus);
-            action->setObjectName(QString::fromStdString(name));
-            menus->addAction(action);
-        }
-
     auto* toolbar = new QHBoxLayout;
     for (int i = 1; form.hasControl("Toolbar1(" + std::to_string(i) + ")"); ++i) {
         auto* button = named<QPushButton>(("Toolbar1(" + std::to_string(i) + ")").c_str());
@@ -134,41 +138,49 @@ SheetView::SheetView(Form& form) {
                                  {"TxtCashLots", "TxtCashTrade"},
                                  {"TxtFut_trdNF", "TxtFut_trdAmt"},
                                  {"TxtBasis"}},
-                                {"Lots", "Trade"}, 84, "FraPosition");
+                                {"Lots", "Trade"}, 78, "FraPosition");
     QGroupBox* greeks = table(form, "Greeks", {"Delta", "Gamma", "Vega", "Theta"},
                               {{"TxtDelVal", "TxtDelCon", "TxtDelHed", "TxtDelPts"},
                                {"TxtGamVal", "TxtGamCon", "TxtGamHed", "TxtGamPts"},
                                {"TxtVegaVal", "TxtVegaConn", "TxtVegaHed", "TxtVegaPts"},
                                {"TxtTheVal", "TxtThetaCon", "TxtTheHed", "TxtThePts"}},
-                              {"$ Value", "Contracts", "Hedge", "Points"}, 84);
+                              {"$ Value", "Contracts", "Hedge", "Points"}, 78);
     QGroupBox* results =
         table(form, "Results", {"Cash", "Future", "Option"},
-              {{"TxtCashU", "TxtCashR"}, {"TxtFutU", "TxtFutR"}, {"TxtOptU", "TxtOptR"}}, {"(U)", "(R)"}, 84);
+              {{"TxtCashU", "TxtCashR"}, {"TxtFutU", "TxtFutR"}, {"TxtOptU", "TxtOptR"}}, {"(U)", "(R)"}, 78);
     QGroupBox* balance = table(form, "Balance", {"Premium", "Comm", "Equity", "Balance"},
-                               {{"TxtPremium"}, {"TxtComm"}, {"TxtEquity"}, {"TxtBalance"}}, {""}, 100);
+                               {{"TxtPremium"}, {"TxtComm"}, {"TxtEquity"}, {"TxtBalance"}}, {""}, 96);
     QGroupBox* neutral = pairs(form, "Sheet", nullptr, {"TxtTotComm", "txtdelneutral"}, 1);
 
-    auto* side = new QVBoxLayout;
-    for (QGroupBox* box : {position, greeks, results, balance, neutral})
-        side->addWidget(box);
+    // The figures beside the ladder in two columns, so that the whole sheet stands on a
+    // 1366x768 screen without scrolling and the ladder takes the height that is left.
+    auto* side = new QGridLayout;
+    side->setSpacing(4);
+    side->addWidget(greeks, 0, 0, 1, 2);
     if (form.hasControl("TxtTotDel"))
         side->addWidget(table(form, "Totals", {"Sheet", "Call", "Put"},
                               {{"TxtTotDel", "TxtTotGamma", "TxtTotVega", "TxtTotTheta"},
                                {"TxtCallDelta", "TxtCallGamma", "TxtCallVega", "TxtCallTheta"},
                                {"TxtPutDelta", "TxtPutGamma", "TxtPutVega", "TxtPutTheta"}},
-                              {"Delta", "Gamma", "Vega", "Theta"}, 70));
-    side->addStretch();
+                              {"Delta", "Gamma", "Vega", "Theta"}, 78),
+                        1, 0, 1, 2);
+    side->addWidget(position, 2, 0);
+    side->addWidget(results, 2, 1);
+    side->addWidget(balance, 3, 0);
+    side->addWidget(neutral, 3, 1);
+    side->setRowStretch(4, 1);
 
     auto* body = new QHBoxLayout;
     body->addWidget(ladder(), 1);
     body->addLayout(side);
 
     auto* layout = new QVBoxLayout(this);
-    layout->setMenuBar(menus);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->setSpacing(4);
     layout->addLayout(toolbar);
     layout->addWidget(market);
     layout->addLayout(body, 1);
-    resize(1280, 800);
+    resize(1340, 660);
 }
 
 } // namespace tallimark

@@ -4,6 +4,7 @@
 
 #include "admin/FrmNewMainScreen.h"
 #include "admin/FrmNewScript.h"
+#include "frame/DeskDate.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -12,6 +13,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableWidget>
+#include <QToolButton>
 #include <QtTest>
 
 using namespace tallimark;
@@ -67,8 +69,12 @@ private slots:
 
         // A tick goes to the position file; a delete drops the row and the tick moves with the rest.
         FrmNewMainScreen& screen = desk->app.screens().get<FrmNewMainScreen>();
-        list->item(1, 0)->setCheckState(Qt::Checked);
+        QTest::keyClick(list, Qt::Key_Space);
         QVERIFY(screen.grid("ListView1").checked(2));
+        const QRect box = list->visualRect(list->model()->index(0, 0));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, QPoint(box.left() + 10, box.center().y()));
+        QVERIFY(screen.grid("ListView1").checked(1));
+        QVERIFY(list->columnWidth(0) > list->fontMetrics().horizontalAdvance("RILZ2026") + 20);
 
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                           list->visualRect(list->model()->index(0, 1)).center());
@@ -128,6 +134,32 @@ private slots:
 
         QTest::keyClick(rate, Qt::Key_Escape);
         QVERIFY(!desk->app.screens().find(FrmNewScript::kName));
+    }
+
+    void theExpiryTakesTheDesksDateFormsOrTheCalendarAndRefusesTheRest() {
+        FrmNewScript& screen = desk->app.screens().get<FrmNewScript>();
+        QWidget* view = show(screen);
+        QLineEdit* date = child(view, "DTPicker1");
+        const std::pair<const char*, const char*> typed[] = {
+            {"23-11-2026", "23-Nov-26"}, {"01-Dec-26", "01-Dec-26"},  {"23/11/2026", "23-Nov-26"},
+            {"2026-11-23", "23-Nov-26"}, {"31-11-2026", "23-Nov-26"}, {"01.12.2026", "23-Nov-26"}};
+        for (const auto& [text, held] : typed) {
+            QTest::mouseClick(date, Qt::LeftButton);
+            QTest::keyClicks(date, text);
+            QTest::keyClick(date, Qt::Key_Return);
+            QCOMPARE(screen.text("DTPicker1"), held);
+            QCOMPARE(date->text(), held);
+            date->clearFocus();
+        }
+        QCOMPARE(desk->boxes.size(), size_t(3));
+        QCOMPARE(desk->boxes[0].text, kDeskDateForms);
+
+        QTest::mouseClick(date->findChild<QToolButton*>(), Qt::LeftButton);
+        QWidget* calendar = view->findChild<QWidget*>("calendarPopup");
+        QVERIFY(calendar && calendar->isVisible());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(screen.text("DTPicker1"), "24-Nov-26");
     }
 };
 

@@ -35,6 +35,21 @@ class MainWindowTest : public QObject {
         QTest::mouseClick(subwindows().first()->findChild<QPushButton*>("Command1"), Qt::LeftButton);
     }
 
+    // Screens of a caption alone that count how often they became the active window.
+    template <int N> struct Probe : EmptyScreen {
+        static inline const std::string kName = "FrmProbe" + std::to_string(N);
+        explicit Probe(App& app) : EmptyScreen(app, kName.c_str(), kName.c_str()) {
+            on("Form", EventType::Activate, [this](Event&) { ++activated; });
+        }
+        int activated = 0;
+    };
+    QMdiSubWindow* host(Form& form) {
+        return qobject_cast<QMdiSubWindow*>(desk->ui.viewOf(form)->parentWidget());
+    }
+    void pick(Form& form) {
+        QTest::mouseClick(host(form), Qt::LeftButton, {}, QPoint(host(form)->width() / 2, 8));
+    }
+
 private slots:
     void init() {
         desk = std::make_unique<test::GuiDesk>();
@@ -107,13 +122,25 @@ private slots:
         QCOMPARE(calc("Text6")->text(), "12.5941");
     }
 
-    void aScreenWithoutItsOwnViewShowsItsCaption() {
-        EmptyScreen blank(desk->app, "FrmBlank", "Blank Screen");
-        blank.show();
-        QCOMPARE(subwindows().size(), 1);
-        QCOMPARE(subwindows().first()->windowTitle(), "Blank Screen");
-        QCOMPARE(subwindows().first()->findChild<QLabel*>()->text(), "Blank Screen");
-        blank.hide();
+    void aScreenChosenHearsActivateAndEscClosesACaptionBackToTheLastOne() {
+        auto& first = desk->app.screens().get<Probe<1>>();
+        auto& second = desk->app.screens().get<Probe<2>>();
+        first.show();
+        second.show();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        QCOMPARE(host(first)->findChild<QLabel*>()->text(), "FrmProbe1");
+        pick(first);
+        QCOMPARE(window->mdiArea().activeSubWindow(), host(first));
+        pick(second);
+        pick(second);
+        QCOMPARE(first.activated, 2);
+        QCOMPARE(second.activated, 2);
+
+        desk->app.screens().get<Probe<3>>().show();
+        QTest::keyClick(desk->ui.viewOf(desk->app.screens().get<Probe<3>>()), Qt::Key_Escape);
+        QVERIFY(!desk->app.screens().find(Probe<3>::kName));
+        QCOMPARE(window->mdiArea().activeSubWindow(), host(second));
+        QCOMPARE(second.activated, 3);
     }
 
     void startUpLogsInAndShowsTheFrame() {

@@ -66,6 +66,9 @@ private slots:
         QCOMPARE(field("TxtSptCode")->text(), "ACC");
         QVERIFY(field("TxtSptName")->hasFocus());
         QTest::keyClicks(field("TxtSptName"), "ACC LTD");
+        // "Script &Code": Alt+C goes to the code, the field after the label.
+        QTest::keyClick(field("TxtSptName"), Qt::Key_C, Qt::AltModifier);
+        QVERIFY(field("TxtSptCode")->hasFocus());
         click("Cmd(4)");
         QVERIFY(desk->boxes.empty());
         QCOMPARE(field("TxtSptName")->text(), "");
@@ -82,7 +85,7 @@ private slots:
         test::duringDialog(
             desk->app, FrmSeek::kName,
             [&] {
-                click("Cmd(5)");
+                QTest::keyClick(button("Cmd(0)"), Qt::Key_F, Qt::AltModifier); // "&Find"
                 return 0;
             },
             [&](QWidget& dialog) {
@@ -110,6 +113,12 @@ private slots:
         QVERIFY(!field("TxtUserCode")->isEnabled());
         QCOMPARE(field("TxtPwd")->echoMode(), QLineEdit::Normal);
         QCOMPARE(mask(), "0001101");
+        // Enter after the last field stands on Save, not on Undo.
+        QVERIFY(QTest::qWaitForWindowActive(view->window()));
+        QTest::keyClicks(field("TxtUserName"), "ravi");
+        QTest::keyClick(field("TxtUserName"), Qt::Key_Return);
+        QTest::keyClick(field("TxtPwd"), Qt::Key_Return);
+        QVERIFY(button("Cmd(4)")->hasFocus());
     }
 
     void theMonthGridHasItsHeadingsAndNoRows() {

@@ -3,15 +3,21 @@
 #include "GuiDesk.h"
 
 #include "../core/sheet/SheetScenarios.h"
+#include "frame/MDIForm1.h"
+#include "frame/MainWindow.h"
+#include "pricing/FrmCalc.h"
 #include "sheet/RiskSheet.h"
 
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTableWidget>
+#include <QToolTip>
 #include <QtTest>
 
 using namespace tallimark;
@@ -49,6 +55,7 @@ private slots:
         QVERIFY(va1->isColumnHidden(15));
         QVERIFY(!va1->isColumnHidden(6));
         QCOMPARE(va1->horizontalHeaderItem(0)->text(), "Strikes");
+        QVERIFY(va1->isRowHidden(0)); // the heading row of the desk's grid, empty here
         QCOMPARE(va1->palette().color(QPalette::Base), QColor(Qt::black));
         // Row 4 is 980 C holding 15, row 3 960 P sold 6 (SheetScenarios.h).
         QCOMPARE(va1->item(3, 0)->text(), "980");
@@ -73,6 +80,66 @@ private slots:
             QCOMPARE(button->text(), keys[i - 1]);
         }
         QCOMPARE(view->findChild<QAction*>("mnuexit")->text(), "E&xit");
+        QCOMPARE(view->findChild<QAction*>("mnuoption")->text(), "&Option\tAlt+O");
+    }
+
+    void inTheFrameItsMenuStandsInTheBarItsAltKeysAreItsOwnAndASaveIsTold() {
+        desk->app.session().g_UserName = "ADMIN";
+        desk->app.screens().get<MDIForm1>().show();
+        MainWindow* frame = desk->ui.mainWindow();
+        QWidget* view = open(test::kSavedSheets[0]);
+        QVERIFY(QTest::qWaitForWindowActive(frame));
+        const QList<QAction*> heads = frame->menuBar()->actions();
+        QCOMPARE(heads.size(), 1);
+        QCOMPARE(heads[0]->text(), "&File");
+        QCOMPARE(heads[0]->menu()->actions()[1]->text(), "&Option\tAlt+O");
+
+        QLineEdit* days = child(view, "TxtDays");
+        days->setFocus(Qt::OtherFocusReason);
+        QTest::keyClick(days, Qt::Key_M, Qt::AltModifier); // the frame's Master menu no more
+        QVERIFY(child(view, "TxtMktPrice")->hasFocus());
+        QVERIFY(!QApplication::activePopupWidget());
+
+        QTest::keyClick(child(view, "TxtMktPrice"), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(frame->statusBar()->currentMessage(), "Sheet saved");
+
+        desk->app.screens().get<FrmCalc>().show();
+        QCOMPARE(frame->menuBar()->actions().size(), 3);
+        QCOMPARE(frame->menuBar()->actions()[1]->text(), "&Master");
+    }
+
+    void aFieldEnteredIsRetypedAndACellTakesOneEnterLegibly() {
+        QWidget* view = open(test::kSavedSheets[0]);
+        QVERIFY(QTest::qWaitForWindowActive(view->window()));
+        QLineEdit* market = child(view, "TxtMktPrice");
+        QTest::mouseClick(market, Qt::LeftButton, {}, QPoint(4, market->height() / 2));
+        QCOMPARE(market->selectedText(), "1010");
+        QTest::keyClicks(market, "1020");
+        QCOMPARE(market->text(), "1020");
+
+        // The volatility of 980 C (row 4) typed over in the ladder; one Enter reprices the row.
+        auto* va1 = child<QTableWidget>(view, "va1");
+        const QString last = va1->item(3, 4)->text();
+        va1->setFocus(Qt::OtherFocusReason);
+        va1->setCurrentCell(3, 5);
+        QTest::keyClick(va1, Qt::Key_4); // the ladder's "4" recomputes the cell, and opens it
+        auto* editor = va1->viewport()->findChild<QLineEdit*>();
+        QVERIFY(editor);
+        QCOMPARE(editor->palette().color(QPalette::Text), QColor(Qt::black));
+        QCOMPARE(editor->palette().color(QPalette::Base), QColor(Qt::white));
+        editor->selectAll();
+        QTest::keyClicks(editor, "55");
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_COMPARE(va1->item(3, 5)->text(), "55");
+        QTRY_VERIFY(va1->item(3, 4)->text() != last);
+
+        // A figure wider than its column shows whole on hover.
+        va1->setColumnWidth(8, 14);
+        const QRect cell = va1->visualRect(va1->model()->index(3, 8));
+        QHelpEvent hover(QEvent::ToolTip, cell.center(), va1->viewport()->mapToGlobal(cell.center()));
+        QApplication::sendEvent(va1->viewport(), &hover);
+        QTRY_COMPARE(QToolTip::text(), va1->item(3, 8)->text());
+        QVERIFY(desk->boxes.empty());
     }
 
     void theIndexSheetShowsItsOwnSmallerSet() {

@@ -1,6 +1,7 @@
 // The new-sheet screen: the symbol built and checked, the sheet's row of Trans, and the sheet
 // opened on the screen of its type.
 #include "AdminDesk.h"
+#include "frame/DeskDate.h"
 
 #include <gtest/gtest.h>
 
@@ -82,6 +83,19 @@ TEST(NewSheet, TheSearchDialogGivesNameAndCodeOrClearsBoth) {
     EXPECT_EQ(d.f.text("TxtScriptNM"), "");
     EXPECT_EQ(d.f.ScrCode, "");
     EXPECT_TRUE(d.ui.boxes().empty());
+}
+
+TEST(NewSheet, AnExpiryThatIsNoDateIsRefusedBeforeTheSheetIsWritten) {
+    NewSheetDesk d;
+    d.choose("RELIANCE", "NOVEMBER");
+    d.fill("NOVEMBER For A", "2500");
+    d.refill();
+    d.f.setText("DTPicker1", "31-11-2026");
+    d.save();
+    EXPECT_EQ(d.boxLines(),
+              std::vector<std::string>{"Entry Error|" + std::string(kDeskDateForms) + "|critical"});
+    EXPECT_EQ(d.transText("InSymbol", "NOVEMBER For A"), "");
+    EXPECT_EQ(d.f.focused(), "DTPicker1");
 }
 
 TEST(NewSheet, BlankOrUnknownChoicesAreNamed) {

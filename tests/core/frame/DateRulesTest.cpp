@@ -1,3 +1,4 @@
+#include "frame/DeskDate.h"
 #include "frame/VbDate.h"
 #include "frame/VbError.h"
 #include "frame/VbFormat.h"
@@ -79,4 +80,15 @@ TEST(DateRules, DayCountsAndWeekdays) {
     EXPECT_EQ(VbDate::fromYmd(2026, 13, 1), VbDate::fromYmd(2027, 1, 1));
     EXPECT_EQ(DateText(VbDate::fromYmd(2026, 1, 2)), "02-01-2026");
     EXPECT_EQ(IsoText(VbDate::fromYmdHms(2026, 1, 2, 3, 4, 5)), "2026-01-02 03:04:05");
+}
+
+TEST(DateRules, ADateFieldTakesTheDesksThreeFormsAndNothingElse) {
+    const VbDate day = VbDate::fromYmd(2026, 11, 23);
+    for (const char* typed : {"23-11-2026", "23-Nov-26", "23/11/2026", "23-NOV-2026", "1-12-2026"})
+        EXPECT_TRUE(deskDate(typed).has_value()) << typed;
+    EXPECT_EQ(*deskDate("23-11-2026"), day);
+    EXPECT_EQ(*deskDate("23-Nov-26"), day);
+    for (const char* typed : {"2026-11-23", "23.11.2026", "23-11/2026", "31-11-2026", "29-Feb-27",
+                              "01-13-2026", "23-November-2026", "23-11-26", "0", "", "23-Nov-2026 10:00"})
+        EXPECT_FALSE(deskDate(typed).has_value()) << typed;
 }

@@ -1,0 +1,35 @@
+#include "frame/AccessKeys.h"
+
+#include <QAbstractButton>
+#include <QKeySequence>
+#include <QLabel>
+
+namespace tallimark {
+
+namespace {
+
+bool marks(const QString& caption, int key) {
+    return QKeySequence::mnemonic(caption) == QKeySequence(Qt::ALT | Qt::Key(key));
+}
+
+bool usable(const QWidget& w) {
+    return w.isVisible() && w.isEnabled();
+}
+
+} // namespace
+
+bool pressAccessKey(QWidget& root, int key) {
+    for (QAbstractButton* button : root.findChildren<QAbstractButton*>())
+        if (usable(*button) && marks(button->text(), key)) {
+            button->click();
+            return true;
+        }
+    for (QLabel* label : root.findChildren<QLabel*>())
+        if (usable(*label) && label->buddy() && usable(*label->buddy()) && marks(label->text(), key)) {
+            label->buddy()->setFocus(Qt::ShortcutFocusReason);
+            return true;
+        }
+    return false;
+}
+
+} // namespace tallimark
