@@ -48,6 +48,9 @@ public:
     virtual void formHidden(Form& form) = 0;
     // The chosen path, or nothing when the user cancelled.
     virtual std::optional<std::string> fileDialog(const FileDialog& dialog) = 0;
+    // Part way through a long step of the one user thread: the windows paint what the models
+    // changed (a count of lines read, say), taking no input. Nothing to do without a display.
+    virtual void showProgress() {}
     // End: the process stops here.
     [[noreturn]] virtual void endProgram() = 0;
 };

@@ -114,6 +114,10 @@ void RiskSheet::Toolbar1_ButtonClick(const std::string& key) {
         underlyingTrade();
     else if (key == "Exit")
         requestClose();
+    else if (key == "Upload")
+        uploadTrades();
+    else if (key == "Trade Tracker")
+        tradeTrail();
     else
         openCommandScreen(key);
 }
@@ -201,10 +205,6 @@ void RiskSheet::openCommandScreen(const std::string& key) {
     const char* screen = nullptr;
     if (key == "Cash")
         screen = isIndex() ? "FrmChargesExl" : "FrmNewCharges";
-    else if (key == "Trade Tracker")
-        screen = "FrmTradeTracker";
-    else if (key == "Upload")
-        screen = isIndex() ? "FrmUploadFut" : "FrmUpload";
     else if (key == "Simulate")
         screen = "FrmSimulation";
     else if (key == "Graph")
