@@ -30,7 +30,8 @@ FrmTrail::FrmTrail(App& app) : Form(app, kName, "Trail Track....Tallimark") {
     addControl(ControlKind::Button, "Command1", "&Delete");
     addControl(ControlKind::Button, "Command3", "&Update");
     addControl(ControlKind::Button, "Command2", "&CLose");
-    on("Form", EventType::Load, [this](Event&) { fill(); });
+    // The opener sets the series once the screen is loaded: the list is read as it comes up.
+    on("Form", EventType::Activate, [this](Event&) { fill(); });
     on(kGrid, EventType::Click, [this](Event& e) {
         Grid& g = grid(kGrid);
         if (e.col == kMarkCol && e.row >= 1 && e.row <= g.maxRows())

@@ -7,8 +7,8 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <set>
+#include <vector>
 
 namespace tallimark {
 
@@ -142,8 +142,6 @@ void FrmUpload::readFile() {
     if (!std::filesystem::exists(path, ec)) throw VbError(53, "File not found");
     std::ifstream in(path, std::ios::binary);
     if (!in || std::filesystem::is_directory(path, ec)) throw VbError(75, "Path/File access error");
-    const std::string content{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    if (in.bad()) throw VbError(57, "Device I/O error");
 
     const Session& s = app().session();
     const SheetFilter filter{ScrNameNow, UCase(Format(text("TxtExpDtN"), "DDMMMYYYY")), day("DD-MMM-YYYY"),
@@ -163,14 +161,27 @@ void FrmUpload::readFile() {
     TradeLine line;
     long lines = 0;
     WriteGroup group(store);
-    forEachTextLine(content, [&](std::string_view text) {
-        splitTradeLine(text, kind, row);
-        interpretTradeRow(row, kind, filter, line);
-        if (++lines % kProgressStep == 0) showLinesRead(lines);
-        if (!line.belongs || known.count(UCase(Trim(row[1])))) return;
-        storeLine(row, line);
-        stageLine(row, line);
-    });
+    showLinesRead(0);
+    // Read in blocks, each up to its last line feed, so the count moves from the start.
+    std::string text, rest;
+    std::vector<char> block(kReadBlock);
+    while (in) {
+        in.read(block.data(), static_cast<std::streamsize>(block.size()));
+        rest.append(block.data(), static_cast<size_t>(in.gcount()));
+        const size_t cut = in ? rest.rfind('\n') : rest.size() - 1;
+        if (rest.empty() || cut == std::string::npos) continue;
+        text.assign(rest, 0, cut + 1);
+        rest.erase(0, cut + 1);
+        forEachTextLine(text, [&](std::string_view one) {
+            splitTradeLine(one, kind, row);
+            interpretTradeRow(row, kind, filter, line);
+            if (++lines % kProgressStep == 0) showLinesRead(lines);
+            if (!line.belongs || known.count(UCase(Trim(row[1])))) return;
+            storeLine(row, line);
+            stageLine(row, line);
+        });
+    }
+    if (in.bad()) throw VbError(57, "Device I/O error");
     showLinesRead(lines);
 }
 

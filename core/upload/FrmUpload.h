@@ -20,6 +20,8 @@ public:
     static constexpr const char* kFileFilter = "Text (*.txt)|*.txt|All Files (*.*)|*.*";
     // Lines between two showings of the count of lines read.
     static constexpr long kProgressStep = 1000;
+    // Bytes of the file read at a time.
+    static constexpr size_t kReadBlock = 1 << 20;
 
     FrmUpload(App& app, SheetKind kind);
 
