@@ -198,6 +198,7 @@ private:
     // The upload's insert of one trade on the active row; false when it failed.
     bool AddTrailUpload(const StagedOption& line, const std::string& tradeDate);
     bool takeStagedOption(int row, const StagedOption& line, const std::string& tradeDate);
+    // What follows an option trade on the active row: its average, the results, the greeks, the balance.
     void optionRecalculation();
 
     void addFields();

@@ -159,13 +159,7 @@ void RiskSheet::optionTrade() {
         AddTrail(Units, entry.Traded);
     else
         AddTrail(Units, entry.Traded, entry.TradeTime, entry.text("TxtImpVolF"));
-    CalcAvgOption();
-    CalcROption();
-    CalcDeltaNeutral1();
-    CalcOptionR();
-    CalcSheetGreeks();
-    ErrProcCalcBalance();
-    ThetaBal();
+    optionRecalculation();
     BusyScope busy(ui());
     RefreshData(13);
 }
