@@ -192,8 +192,8 @@ void FrmUpload::showLinesRead(long lines) {
 }
 
 void FrmUpload::storeLine(const TradeRow& row, const TradeLine& line) {
-    // Numbers of the file go into the statement as the numbers they read as.
-    auto number = [](std::string_view field) { return NumText(CDbl(Trim(field))); };
+    // A figure of the file that is no number fails the insert, as a statement would.
+    auto number = [](std::string_view field) { return num(Trim(field)); };
     const std::string tail = q(Trim(text("TxtSymbol"))) + ", " + q(Trim(text("TxtDesc"))) + ", " +
                              q(Trim(text("TxtFileNm"))) + ", " + number(text("TxtMktPrice")) + ", ";
     if (layout() == TradeLayout::FutStk)
