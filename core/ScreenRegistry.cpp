@@ -18,8 +18,10 @@
 #include "sheet/RiskSheet.h"
 #include "tracker/FrmOption.h"
 #include "tracker/FrmOption_New.h"
+#include "tracker/FrmTrail.h"
 #include "tracker/FrmUnderlying.h"
 #include "tracker/FrmUnderlying_New.h"
+#include "upload/FrmUpload.h"
 
 #include <functional>
 #include <utility>
@@ -57,9 +59,10 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
         empty("FrmTwoContract", "Two Contract Strategy Program"),
         empty("FrmNewCharges", "Charges For the Day"),
         empty("FrmChargesExl", "Charges Sheet....Tallimark"),
-        empty("FrmTradeTracker", "Trade Trail....Tallimark"),
-        empty("FrmUpload", "Uploading The Data....Tallimark"),
-        empty("FrmUploadFut", "Uploading The Data....Tallimark"),
+        entry<FrmTradeTracker>(),
+        entry<FrmTrail>(),
+        {FrmUpload::kStockName, [](App& app) { return std::make_unique<FrmUpload>(app, SheetKind::Stock); }},
+        {FrmUpload::kIndexName, [](App& app) { return std::make_unique<FrmUpload>(app, SheetKind::Index); }},
         empty("FrmSimulation", "Simulation....Tallimark"),
         empty("FrmListGraph", "Graphical Analysis.......By Tallimark"),
         empty("FrmPrintOption", "Different Print Options....Tallimark"),

@@ -30,9 +30,13 @@
 #include "sheet/StrikeSettingView.h"
 #include "tracker/FrmOption.h"
 #include "tracker/FrmOption_New.h"
+#include "tracker/FrmTrail.h"
 #include "tracker/FrmUnderlying.h"
 #include "tracker/FrmUnderlying_New.h"
 #include "tracker/TradeEntryView.h"
+#include "tracker/TrailView.h"
+#include "upload/FrmUpload.h"
+#include "upload/UploadView.h"
 
 #include <map>
 #include <string>
@@ -74,6 +78,10 @@ const std::map<std::string, Maker, std::less<>> kViews = {
     {RiskSheet::kStockName, make<SheetView>},
     {RiskSheet::kIndexName, make<SheetView>},
     {FrmSettingStrike::kName, make<StrikeSettingView>},
+    {FrmUpload::kStockName, make<UploadView>},
+    {FrmUpload::kIndexName, make<UploadView>},
+    {FrmTradeTracker::kName, make<TradeTrackerView>},
+    {FrmTrail::kName, make<TrailView>},
 };
 
 } // namespace

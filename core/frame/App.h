@@ -34,6 +34,8 @@ struct Session {
     int gOpenMode = 0;
     std::vector<std::string> gPonSymbols;
     std::vector<std::string> gPonDescs;
+    // Set by a trade file upload into an index sheet, which zeroes no field of the sheet.
+    bool gUploadedIndex = false;
 };
 
 class App {

@@ -54,6 +54,9 @@ public:
     virtual void statusMessage(const std::string& text) = 0;
     // Boxes shown so far, so that a step can tell whether it went through without one.
     int boxesShown() const { return boxesShown_; }
+    // Part way through a long step of the one user thread: the windows paint what the models
+    // changed (a count of lines read, say), taking no input. Nothing to do without a display.
+    virtual void showProgress() {}
     // End: the process stops here.
     [[noreturn]] virtual void endProgram() = 0;
 

@@ -169,13 +169,35 @@ int VbDate::weekday() const {
     return static_cast<int>(w < 0 ? w + 7 : w) + 1;
 }
 
+namespace {
+
+// "23 NOV 2026" (the exchange's trade files) as "23-NOV-2026", any time after it kept: a day,
+// a month named in letters and a year, each after one blank. Other texts come back as they stand.
+std::string spacedDate(std::string_view s) {
+    const size_t first = s.find(' ');
+    if (first == std::string_view::npos) return std::string(s);
+    const size_t second = s.find(' ', first + 1);
+    if (second == std::string_view::npos) return std::string(s);
+    const std::string_view day = s.substr(0, first), month = s.substr(first + 1, second - first - 1);
+    const size_t end = std::min(s.find(' ', second + 1), s.size());
+    const std::string_view year = s.substr(second + 1, end - second - 1);
+    if (!allDigits(day) || monthFromName(month) == 0 || !allDigits(year)) return std::string(s);
+    std::string dashed(s);
+    dashed[first] = '-';
+    dashed[second] = '-';
+    return dashed;
+}
+
+} // namespace
+
 std::optional<VbDate> parseDate(std::string_view text) {
     size_t b = 0, e = text.size();
     while (b < e && text[b] == ' ')
         ++b;
     while (e > b && text[e - 1] == ' ')
         --e;
-    std::string_view s = text.substr(b, e - b);
+    const std::string dashed = spacedDate(text.substr(b, e - b));
+    std::string_view s = dashed;
 
     int seconds = 0;
     if (const size_t space = s.find(' '); space != std::string_view::npos) {

@@ -35,7 +35,7 @@ private:
     double serial_ = 0.0;
 };
 
-// CDate of a text: "23-Nov-2026", "23-NOVEMBER-2026", "23-Nov-26", "23-11-2026", "23/11/2026",
+// CDate of a text: "23-Nov-2026", "23-NOVEMBER-2026", "23 NOV 2026", "23-Nov-26", "23-11-2026", "23/11/2026",
 // "2026-11-23", each with an optional time "hh:mm[:ss]". Raises Type mismatch on anything else.
 VbDate CDate(std::string_view text);
 std::optional<VbDate> parseDate(std::string_view text);

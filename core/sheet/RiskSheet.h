@@ -12,6 +12,7 @@
 #include <exception>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace tallimark {
 
@@ -131,6 +132,15 @@ public:
     std::string CashTypeNow; // of the last underlying trade, "F" or "Q"
     double FutTradeBefore = 0;
 
+    // Trades staged by a trade file upload, taken into the ledger (tradeDate: the upload's day as
+    // DD-MMM-YYYY); PutOptionDataLineByLine runs every sum after every trade, PutOptionData
+    // once at the end to the same rows and figures. The 1 editions recalculate after a removal.
+    void PutOptionData(const std::string& tradeDate);
+    void PutOptionDataLineByLine(const std::string& tradeDate);
+    void PutStockData();
+    void PutOptionData1();
+    void PutStockData1();
+
     // Averages and results from the ledger.
     void CalcAvgOption();
     void CalcAvgStock();
@@ -190,6 +200,19 @@ protected:
     static std::string sqlNumber(const Value& value);
 
 private:
+    struct StagedOption {
+        double strike;
+        int32_t units;
+        double traded;
+        std::string cp, field1, field3;
+    };
+    std::vector<StagedOption> stagedOptions();
+    // The upload's insert of one trade on the active row; false when it failed.
+    bool AddTrailUpload(const StagedOption& line, const std::string& tradeDate);
+    bool takeStagedOption(int row, const StagedOption& line, const std::string& tradeDate);
+    // What follows an option trade on the active row: its average, the results, the greeks, the balance.
+    void optionRecalculation();
+
     void addFields();
     void addLadder();
     void wireEvents();
@@ -197,6 +220,8 @@ private:
     void keyPreview(Event& e);
     void optionTrade();
     void underlyingTrade();
+    void uploadTrades();
+    void tradeTrail();
     // The screens that the remaining commands open.
     void openCommandScreen(const std::string& key);
     void addField(const std::string& field, const char* caption);

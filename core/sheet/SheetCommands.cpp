@@ -117,6 +117,10 @@ void RiskSheet::Toolbar1_ButtonClick(const std::string& key) {
         underlyingTrade();
     else if (key == "Exit")
         requestClose();
+    else if (key == "Upload")
+        uploadTrades();
+    else if (key == "Trade Tracker")
+        tradeTrail();
     else
         openCommandScreen(key);
 }
@@ -158,13 +162,7 @@ void RiskSheet::optionTrade() {
         AddTrail(Units, entry.Traded);
     else
         AddTrail(Units, entry.Traded, entry.TradeTime, entry.text("TxtImpVolF"));
-    CalcAvgOption();
-    CalcROption();
-    CalcDeltaNeutral1();
-    CalcOptionR();
-    CalcSheetGreeks();
-    ErrProcCalcBalance();
-    ThetaBal();
+    optionRecalculation();
     BusyScope busy(ui());
     RefreshData(13);
 }
@@ -204,10 +202,6 @@ void RiskSheet::openCommandScreen(const std::string& key) {
     const char* screen = nullptr;
     if (key == "Cash")
         screen = isIndex() ? "FrmChargesExl" : "FrmNewCharges";
-    else if (key == "Trade Tracker")
-        screen = "FrmTradeTracker";
-    else if (key == "Upload")
-        screen = isIndex() ? "FrmUploadFut" : "FrmUpload";
     else if (key == "Simulate")
         screen = "FrmSimulation";
     else if (key == "Graph")

@@ -146,6 +146,11 @@ MsgAnswer QtUi::msgBox(const MsgBox& box) {
     return answerOf(clicked);
 }
 
+void QtUi::showProgress() {
+    // Paints only: a click or key during the step would reach models that are mid-way.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 void QtUi::setBusy(bool busy) {
     // The screens set and clear the busy cursor as a flag; Qt's override cursors stack.
     if (busy == busy_) return;

@@ -26,6 +26,7 @@ public:
 
     MsgAnswer msgBox(const MsgBox& box) override;
     void setBusy(bool busy) override;
+    void showProgress() override;
     void showModal(Form& form) override;
     void showForm(Form& form) override;
     void formHidden(Form& form) override;

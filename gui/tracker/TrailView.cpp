@@ -1,0 +1,41 @@
+#include "tracker/TrailView.h"
+
+#include "frame/Named.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace tallimark {
+
+namespace {
+
+QHBoxLayout* buttonRow(std::initializer_list<const char*> names) {
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    for (const char* name : names)
+        row->addWidget(named<QPushButton>(name));
+    return row;
+}
+
+} // namespace
+
+TradeTrackerView::TradeTrackerView() {
+    auto* layout = new QVBoxLayout(this);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    for (const char* name : {"Option1(0)", "Option1(1)", "Option1(2)"})
+        layout->addWidget(named<QRadioButton>(name));
+    layout->addLayout(buttonRow({"Cmd(0)", "Cmd(1)"}));
+}
+
+TrailView::TrailView() {
+    auto* table = named<QTableWidget>("va1");
+    table->setMinimumSize(560, 240);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(table);
+    layout->addLayout(buttonRow({"Command1", "Command3", "Command2"}));
+}
+
+} // namespace tallimark

@@ -1,0 +1,44 @@
+#include "upload/UploadView.h"
+
+#include "frame/Named.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace tallimark {
+
+UploadView::UploadView() {
+    auto* fields = new QFormLayout;
+    for (const auto& [label, name] : {std::pair{"Symbol", "TxtSymbol"},
+                                      {"Description", "TxtDesc"},
+                                      {"Market Price", "TxtMktPrice"},
+                                      {"Expiry", "TxtExpDtN"},
+                                      {"Trade Date", "DTPicker1"}})
+        fields->addRow(label, named<QLineEdit>(name));
+    auto* file = new QHBoxLayout;
+    auto* path = named<QLineEdit>("TxtFileNm");
+    path->setMinimumWidth(320);
+    file->addWidget(path);
+    file->addWidget(named<QPushButton>("Command1"));
+    fields->addRow("File", file);
+    auto* layouts = new QHBoxLayout;
+    layouts->addWidget(named<QRadioButton>("Option1(0)"));
+    layouts->addWidget(named<QRadioButton>("Option1(1)"));
+    fields->addRow("Layout", layouts);
+    fields->addRow("", named<QLabel>("LblLines"));
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    for (const char* name : {"CmdUpload", "CmdDelete", "Command2"})
+        buttons->addWidget(named<QPushButton>(name));
+    auto* layout = new QVBoxLayout(this);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addLayout(fields);
+    layout->addLayout(buttons);
+}
+
+} // namespace tallimark
