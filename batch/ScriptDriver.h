@@ -34,6 +34,8 @@ private:
     void perform(const std::string& line);
     Form& formOf(const std::string& target);
     std::string controlOf(const std::string& target);
+    // The screen's drawing surface as a PNG file.
+    void savePicture(Form& form, const std::string& path);
 
     App& app_;
     ScriptedUi& ui_;

@@ -23,6 +23,12 @@
 #include "frame/MainWindow.h"
 #include "pricing/CalcView.h"
 #include "pricing/FrmCalc.h"
+#include "scenario/FrmListGraph.h"
+#include "scenario/FrmNewGraph.h"
+#include "scenario/FrmNewGraphGreek.h"
+#include "scenario/FrmSimulation.h"
+#include "scenario/FrmTwoContract.h"
+#include "scenario/ScenarioView.h"
 #include "sheet/FrmSettingStrike.h"
 #include "sheet/RiskSheet.h"
 #include "sheet/SheetView.h"
@@ -73,6 +79,11 @@ const std::map<std::string, Maker, std::less<>> kViews = {
     {RiskSheet::kStockName, make<SheetView>},
     {RiskSheet::kIndexName, make<SheetView>},
     {FrmSettingStrike::kName, make<StrikeSettingView>},
+    {FrmSimulation::kName, make<ScenarioView>},
+    {FrmListGraph::kName, make<ScenarioView>},
+    {FrmNewGraph::kName, make<ScenarioView>},
+    {FrmNewGraphGreek::kName, make<ScenarioView>},
+    {FrmTwoContract::kName, make<ScenarioView>},
 };
 
 } // namespace
