@@ -68,7 +68,8 @@ QTableWidget* list(const std::string& name) {
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->verticalHeader()->hide();
-    table->setMinimumSize(260, 240);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->setMinimumSize(120 * 3, 300);
     return table;
 }
 
@@ -76,6 +77,8 @@ QTableWidget* list(const std::string& name) {
 
 ScenarioView::ScenarioView(Form& form) {
     auto* layout = new QVBoxLayout(this);
+    // The window opens large enough for all it holds.
+    layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addLayout(fields(form));
     layout->addLayout(row(form, true));
     layout->addLayout(row(form, false));
