@@ -84,6 +84,7 @@ std::string controlJson(const Control& c) {
     if (!c.enabled) s += ",\"enabled\":false";
     if (c.locked) s += ",\"locked\":true";
     if (!c.visible) s += ",\"visible\":false";
+    if (!c.toolTip.empty()) s += ",\"toolTip\":" + jsonString(c.toolTip);
     return s + "}";
 }
 
@@ -104,7 +105,8 @@ std::string gridJson(const Grid& g) {
             s += (c > 1 ? "," : "") + cellJson(g.cell(r, c), g.checkBoxes && c == 1);
         s += "]";
     }
-    return s + "],\"activeRow\":" + std::to_string(g.activeRow) +
+    s += g.visible ? "]" : "],\"visible\":false";
+    return s + ",\"activeRow\":" + std::to_string(g.activeRow) +
            ",\"activeCol\":" + std::to_string(g.activeCol) + "}";
 }
 

@@ -2,7 +2,11 @@
 
 #include "Json.h"
 #include "frame/App.h"
+#include "frame/Canvas.h"
 #include "frame/Form.h"
+#ifdef TALLIMARK_RENDER
+#include "canvas/ImageCanvas.h"
+#endif
 
 #include <sstream>
 
@@ -161,7 +165,11 @@ void ScriptDriver::perform(const std::string& line) {
         if (!type) throw ScriptError(lineNo_, "no event " + name);
         Event e{*type};
         std::string a1, a2;
-        if (words >> a1) {
+        if (*type == EventType::MouseMove) {
+            // The pointer's pixel on the control.
+            e.x = toInt(arg("x"), lineNo_);
+            e.y = toInt(arg("y"), lineNo_);
+        } else if (words >> a1) {
             const int v = toInt(a1, lineNo_);
             if (*type == EventType::KeyPress)
                 e.keyAscii = v;
@@ -219,11 +227,25 @@ void ScriptDriver::perform(const std::string& line) {
         ui_.queueFile(target == "cancel" ? std::nullopt : std::optional<std::string>(restAfter(line, 1)));
     } else if (verb == "dump") {
         out_ << formJson(formOf(target)) << '\n' << std::flush;
+    } else if (verb == "graph") {
+        savePicture(formOf(target), restAfter(line, 2));
     } else if (verb == "close") {
         formOf(target).requestClose();
     } else {
         throw ScriptError(lineNo_, "unknown action " + verb);
     }
+}
+
+void ScriptDriver::savePicture(Form& form, const std::string& path) {
+    auto* screen = dynamic_cast<PictureScreen*>(&form);
+    if (!screen) throw ScriptError(lineNo_, form.name() + " has no graph");
+#ifdef TALLIMARK_RENDER
+    const auto* image = dynamic_cast<const render::ImageCanvas*>(&screen->picture());
+    if (!image || !image->savePng(path)) throw ScriptError(lineNo_, "cannot write the graph to " + path);
+#else
+    (void)path;
+    throw ScriptError(lineNo_, "graph: this tallimark-batch was built without the rendering layer (Qt)");
+#endif
 }
 
 } // namespace tallimark

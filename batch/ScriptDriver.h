@@ -40,6 +40,8 @@ private:
     std::string controlOf(const std::string& target);
     // Ticks or clears a row's check box as a click on it in the window does.
     void tickRow(Form& form, const std::string& list, int row, bool ticked);
+    // The screen's drawing surface as a PNG file.
+    void savePicture(Form& form, const std::string& path);
 
     App& app_;
     ScriptedUi& ui_;

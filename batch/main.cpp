@@ -3,6 +3,9 @@
 #include "frame/App.h"
 #include "frame/Schema.h"
 #include "frame/Startup.h"
+#ifdef TALLIMARK_RENDER
+#include "canvas/ImageCanvas.h"
+#endif
 
 #include <fstream>
 #include <iostream>
@@ -70,6 +73,9 @@ int main(int argc, char** argv) {
 
     ScriptedUi ui;
     App app(ui, clock, dataDir);
+#ifdef TALLIMARK_RENDER
+    app.setCanvasMaker(render::imageCanvasMaker());
+#endif
     ScriptDriver driver(app, ui, in, std::cout);
     try {
         if (!StartUp(app)) return 1;

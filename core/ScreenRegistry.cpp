@@ -14,6 +14,11 @@
 #include "frame/Form.h"
 #include "frame/MDIForm1.h"
 #include "pricing/FrmCalc.h"
+#include "scenario/FrmListGraph.h"
+#include "scenario/FrmNewGraph.h"
+#include "scenario/FrmNewGraphGreek.h"
+#include "scenario/FrmSimulation.h"
+#include "scenario/FrmTwoContract.h"
 #include "sheet/FrmSettingStrike.h"
 #include "sheet/RiskSheet.h"
 #include "tracker/FrmOption.h"
@@ -56,15 +61,17 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
         entry<FrmNewScript>(),
         empty("FrmSpan_Load", "Load Span File"),
         empty("FrmCreatePon", "Create Position File"),
-        empty("FrmTwoContract", "Two Contract Strategy Program"),
+        entry<FrmTwoContract>(),
         empty("FrmNewCharges", "Charges For the Day"),
         empty("FrmChargesExl", "Charges Sheet....Tallimark"),
         entry<FrmTradeTracker>(),
         entry<FrmTrail>(),
         {FrmUpload::kStockName, [](App& app) { return std::make_unique<FrmUpload>(app, SheetKind::Stock); }},
         {FrmUpload::kIndexName, [](App& app) { return std::make_unique<FrmUpload>(app, SheetKind::Index); }},
-        empty("FrmSimulation", "Simulation....Tallimark"),
-        empty("FrmListGraph", "Graphical Analysis.......By Tallimark"),
+        entry<FrmSimulation>(),
+        entry<FrmListGraph>(),
+        entry<FrmNewGraph>(),
+        entry<FrmNewGraphGreek>(),
         empty("FrmPrintOption", "Different Print Options....Tallimark"),
         entry<FrmScriptMast>(),
         entry<Frmnth>(),

@@ -24,6 +24,12 @@
 #include "frame/ScreenMenu.h"
 #include "pricing/CalcView.h"
 #include "pricing/FrmCalc.h"
+#include "scenario/FrmListGraph.h"
+#include "scenario/FrmNewGraph.h"
+#include "scenario/FrmNewGraphGreek.h"
+#include "scenario/FrmSimulation.h"
+#include "scenario/FrmTwoContract.h"
+#include "scenario/ScenarioView.h"
 #include "sheet/FrmSettingStrike.h"
 #include "sheet/RiskSheet.h"
 #include "sheet/SheetView.h"
@@ -82,6 +88,11 @@ const std::map<std::string, Maker, std::less<>> kViews = {
     {FrmUpload::kIndexName, make<UploadView>},
     {FrmTradeTracker::kName, make<TradeTrackerView>},
     {FrmTrail::kName, make<TrailView>},
+    {FrmSimulation::kName, make<ScenarioView>},
+    {FrmListGraph::kName, make<ScenarioView>},
+    {FrmNewGraph::kName, make<ScenarioView>},
+    {FrmNewGraphGreek::kName, make<ScenarioView>},
+    {FrmTwoContract::kName, make<ScenarioView>},
 };
 
 } // namespace

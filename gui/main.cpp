@@ -1,4 +1,5 @@
 // tallimark: the desk's workstation.
+#include "canvas/ImageCanvas.h"
 #include "frame/App.h"
 #include "frame/QtUi.h"
 #include "frame/Startup.h"
@@ -44,6 +45,7 @@ int main(int argc, char** argv) {
 
     QtUi ui;
     App app(ui, clock, std::filesystem::path(parser.value(dataOption).toStdString()));
+    app.setCanvasMaker(render::imageCanvasMaker());
     if (!StartUp(app)) return 1;
     return QApplication::exec();
 }

@@ -42,6 +42,10 @@ void App::saveWorkingLedger() {
     }
 }
 
+std::unique_ptr<Canvas> App::makeCanvas(int width, int height) {
+    return canvasMaker_ ? canvasMaker_(width, height) : makeBlankCanvas(width, height);
+}
+
 void App::end() {
     ui_.endProgram();
     throw ProgramEnd(); // a UI that returned from End still ends the run

@@ -1,6 +1,7 @@
 #pragma once
 // The context every screen works in: the store connection, the clock, the UI, the program-wide
 // variables and the screens of the process. Passed by reference; nothing here is global.
+#include "frame/Canvas.h"
 #include "frame/Clock.h"
 #include "frame/Screens.h"
 #include "frame/Store.h"
@@ -57,6 +58,11 @@ public:
     void openStore();
     void closeStore();
 
+    // The drawing surfaces of the graph screens: painted when the window or the batch driver
+    // handed over a maker, blank otherwise.
+    void setCanvasMaker(CanvasMaker maker) { canvasMaker_ = std::move(maker); }
+    std::unique_ptr<Canvas> makeCanvas(int width, int height);
+
     // End: the process stops; the UI decides how.
     [[noreturn]] void end();
 
@@ -70,6 +76,7 @@ private:
     Session session_;
     std::unique_ptr<StoreLock> lock_; // outlives the connection it guards
     std::unique_ptr<Store> store_;
+    CanvasMaker canvasMaker_;
     Screens screens_;
 };
 

@@ -6,8 +6,8 @@
 namespace tallimark {
 
 namespace {
-const char* const kEventNames[] = {"Click",   "DblClick", "Change", "GotFocus", "LostFocus",
-                                   "KeyDown", "KeyPress", "Load",   "Activate", "QueryUnload"};
+const char* const kEventNames[] = {"Click",    "DblClick", "Change",   "GotFocus",    "LostFocus", "KeyDown",
+                                   "KeyPress", "Load",     "Activate", "QueryUnload", "MouseMove"};
 }
 
 const char* eventName(EventType t) {
@@ -121,6 +121,13 @@ void Form::setValue(const std::string& name, bool value) {
 
 void Form::setItems(const std::string& name, std::vector<std::string> items) {
     control(name).items = std::move(items);
+    markChanged(name);
+}
+
+void Form::setToolTip(const std::string& name, std::string tip) {
+    Control& c = control(name);
+    if (c.toolTip == tip) return;
+    c.toolTip = std::move(tip);
     markChanged(name);
 }
 

@@ -27,7 +27,8 @@ enum class ControlKind {
     ListBox,
     DatePicker,
     Menu,
-    Frame
+    Frame,
+    Picture // a drawing surface; the screen draws on its canvas
 };
 
 struct Control {
@@ -43,6 +44,7 @@ struct Control {
     int selStart = 0, selLength = 0; // selection of a text box
     bool password = false;
     std::string menuParent; // the menu head a menu entry stands under
+    std::string toolTip;    // shown while the pointer rests on the control
 };
 
 enum class EventType {
@@ -55,7 +57,8 @@ enum class EventType {
     KeyPress,
     Load,
     Activate,
-    QueryUnload
+    QueryUnload,
+    MouseMove
 };
 
 const char* eventName(EventType t);
@@ -69,6 +72,7 @@ struct Event {
     int keyAscii = 0; // KeyPress; a handler may change it
     int row = 0, col = 0;
     bool cancel = false; // QueryUnload: a handler keeps the screen
+    double x = 0, y = 0; // MouseMove: the pointer, in pixels of the control
 };
 
 // Key codes and shift bits as the screens test them.
@@ -113,6 +117,7 @@ public:
     void setVisible(const std::string& name, bool visible);
     void setValue(const std::string& name, bool value); // check box or option button; fires Click
     void setItems(const std::string& name, std::vector<std::string> items);
+    void setToolTip(const std::string& name, std::string tip);
 
     std::vector<std::string> gridNames() const;
     Grid& grid(const std::string& name);

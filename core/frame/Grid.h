@@ -57,6 +57,7 @@ public:
     int dataRowCount() const;
 
     bool checkBoxes = false; // a list with a check box in front of each row
+    bool visible = true;
     int activeRow = 0;
     int activeCol = 0;
     std::optional<Rgb> backColor; // ground of the whole grid

@@ -65,7 +65,7 @@ using Lanes = double __attribute__((vector_size(4 * sizeof(double))));
 constexpr int kLanes = 4;
 
 // Four neighbouring nodes, each with the very operations of a single node.
-[[gnu::always_inline]] inline void fourNodes(const Row& w, int i) {
+template <bool ExerciseOnTie> [[gnu::always_inline]] inline void fourNodes(const Row& w, int i) {
     Lanes s, dk, up, dn;
     std::memcpy(&s, w.spot + i, sizeof s);
     std::memcpy(&dk, w.dk + i, sizeof dk);
@@ -73,34 +73,43 @@ constexpr int kLanes = 4;
     std::memcpy(&dn, w.cur + i, sizeof dn);
     const Lanes e = w.z * (s * dk - w.K);
     const Lanes c = (w.p * up + w.q * dn) * w.df;
-    const Lanes v = e > c ? e : c;
+    Lanes v;
+    if constexpr (ExerciseOnTie)
+        v = e >= c ? e : c;
+    else
+        v = e > c ? e : c;
     std::memcpy(w.nxt + i, &v, sizeof v);
 }
 
 // Nodes 0..m-1 of a row. Whole groups of four; the last group is moved back to end at the row's
 // end, which recomputes a few nodes to the same bits since cur is left untouched.
-[[gnu::always_inline]] inline void rowNodes(const Row& w, int m) {
+template <bool ExerciseOnTie> [[gnu::always_inline]] inline void rowNodes(const Row& w, int m) {
     if (m < kLanes) {
-        for (int i = 0; i < m; ++i)
-            w.nxt[i] = MaxOf(w.z * (w.spot[i] * w.dk[i] - w.K), (w.p * w.cur[i + 1] + w.q * w.cur[i]) * w.df);
+        for (int i = 0; i < m; ++i) {
+            const double E = w.z * (w.spot[i] * w.dk[i] - w.K);
+            const double C = (w.p * w.cur[i + 1] + w.q * w.cur[i]) * w.df;
+            w.nxt[i] = ExerciseOnTie ? BinomialMax(E, C) : MaxOf(E, C);
+        }
         return;
     }
     int i = 0;
     for (; i + kLanes <= m; i += kLanes)
-        fourNodes(w, i);
-    if (i < m) fourNodes(w, m - kLanes);
+        fourNodes<ExerciseOnTie>(w, i);
+    if (i < m) fourNodes<ExerciseOnTie>(w, m - kLanes);
 }
 
 // Leaves and the walk back to the root; ping and pong take turns as the row read and written.
-TALLIMARK_NODE_CLONES
-double rollBack(const double* spot, const double* down, int n, const Setup& s, double K, double* ping,
-                double* pong, double& d0, double& d1) {
+// A leaf is the same under either tie rule: both keep the intrinsic value on a tie with 0.
+template <bool ExerciseOnTie>
+[[gnu::always_inline]] inline double rollBackNodes(const double* spot, const double* down, int n,
+                                                   const Setup& s, double K, double* ping, double* pong,
+                                                   double& d0, double& d1) {
     for (int i = 0; i <= n; ++i)
         ping[i] = MaxOf(0, s.z * (spot[i] * down[i] - K));
     double* cur = ping;
     double* nxt = pong;
     for (int j = n - 1; j >= 0; --j) {
-        rowNodes(Row{spot, down + (n - j), cur, nxt, s.z, K, s.p, s.q, s.df}, j + 1);
+        rowNodes<ExerciseOnTie>(Row{spot, down + (n - j), cur, nxt, s.z, K, s.p, s.q, s.df}, j + 1);
         if (j == 1) {
             d0 = nxt[0];
             d1 = nxt[1];
@@ -108,6 +117,18 @@ double rollBack(const double* spot, const double* down, int n, const Setup& s, d
         std::swap(cur, nxt);
     }
     return cur[0];
+}
+
+TALLIMARK_NODE_CLONES
+double rollBack(const double* spot, const double* down, int n, const Setup& s, double K, double* ping,
+                double* pong, double& d0, double& d1) {
+    return rollBackNodes<false>(spot, down, n, s, K, ping, pong, d0, d1);
+}
+
+TALLIMARK_NODE_CLONES
+double rollBackExercising(const double* spot, const double* down, int n, const Setup& s, double K,
+                          double* ping, double* pong, double& d0, double& d1) {
+    return rollBackNodes<true>(spot, down, n, s, K, ping, pong, d0, d1);
 }
 
 } // namespace
@@ -175,7 +196,8 @@ TreeResult FastTree::operator()(const TreeArgs& a) {
     for (int i = 0; i <= a.n; ++i)
         spot_[i] = a.S * pw.up()[i];
     double d0 = 0, d1 = 0;
-    const double v = rollBack(spot_.data(), pw.down(), a.n, s, a.K, ping_.data(), pong_.data(), d0, d1);
+    const auto walk = a.exerciseOnTie ? rollBackExercising : rollBack;
+    const double v = walk(spot_.data(), pw.down(), a.n, s, a.K, ping_.data(), pong_.data(), d0, d1);
     return {watch.check(v), d0, d1, s.u, s.d};
 }
 

@@ -16,6 +16,11 @@ inline double MaxOf(double a, double b) {
     return a > b ? a : b;
 }
 
+// The simulation's larger of two figures: a on a tie, b when either is not a number.
+inline double BinomialMax(double a, double b) {
+    return a >= b ? a : b;
+}
+
 struct TreeArgs {
     double S = 0;     // price of the underlying
     double K = 0;     // strike
@@ -25,6 +30,9 @@ struct TreeArgs {
     double b = 0;     // carry; the sheet always passes 0.1
     int n = 0;        // steps; the sheet always passes 100
     OptionSide side = OptionSide::Call;
+    // The simulation's nodes keep the exercise value where it ties with holding on (BinomialMax);
+    // the sheet's keep the continuation (MaxOf). Only the sign of a zero can tell them apart.
+    bool exerciseOnTie = false;
 };
 
 struct TreeResult {
@@ -36,7 +44,8 @@ struct TreeResult {
 };
 
 // Raises the desk's run-time errors: Invalid procedure call for T < 0, Division by zero when
-// sigma is 0 and T > 0, Overflow when any node overflows. Steps n must be at least 1.
+// sigma is 0 and T > 0, Overflow when any node overflows. Steps n must be at least 1. The sheet's
+// tie rule only: the simulation keeps its own plain walk beside its formula.
 TreeResult plainTree(const TreeArgs& a);
 
 // The tree's delta. At T > 0 the slope one step in, (D(1) - D(0))/(S*u - S*d); at expiry the

@@ -4,6 +4,7 @@
 #include "frame/VbFormat.h"
 #include "frame/VbNumber.h"
 #include "sheet/RiskSheet.h"
+#include "sheet/SheetCommandScreen.h"
 #include "tracker/FrmOption.h"
 #include "tracker/FrmUnderlying.h"
 
@@ -210,7 +211,11 @@ void RiskSheet::openCommandScreen(const std::string& key) {
         screen = "FrmPrintOption";
     if (!screen) return;
     BusyScope busy(ui());
-    app().screens().get(screen).show();
+    Form& target = app().screens().get(screen);
+    if (auto* command = dynamic_cast<SheetCommandScreen*>(&target))
+        command->openFrom(*this);
+    else
+        target.show();
 }
 
 bool RiskSheet::closeRefused() {

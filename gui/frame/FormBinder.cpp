@@ -284,6 +284,8 @@ void FormBinder::showControl(const std::string& name) {
     auto* widget = static_cast<QWidget*>(object);
     widget->setEnabled(control.enabled);
     if (widget->isHidden() == control.visible) widget->setVisible(control.visible);
+    if (widget->toolTip() != qs(control.toolTip)) widget->setToolTip(qs(control.toolTip));
+    if (control.kind == ControlKind::Picture) widget->update(); // a drawing surface shows what the model drew
     showFore(name, *widget, control.foreColor);
     if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
         showText(name, *edit, control);
@@ -338,6 +340,7 @@ void FormBinder::showGrid(const std::string& name, GridView& view) {
     // A sheet refresh rewrites a few thousand cells: one repaint at the end, items reused, and
     // only what changed set.
     const QSignalBlocker blocker(table);
+    if (table.isHidden() == grid.visible) table.setVisible(grid.visible);
     table.setUpdatesEnabled(false);
     if (table.columnCount() != grid.maxCols()) table.setColumnCount(grid.maxCols());
     if (table.rowCount() != grid.maxRows()) table.setRowCount(grid.maxRows());

@@ -1,0 +1,42 @@
+#include "scenario/FrmListGraph.h"
+
+#include "frame/App.h"
+#include "scenario/FrmNewGraph.h"
+#include "scenario/FrmNewGraphGreek.h"
+#include "sheet/RiskSheet.h"
+
+namespace tallimark {
+
+FrmListGraph::FrmListGraph(App& app) : Form(app, kName, "Graphical Analysis.......By Tallimark") {
+    addControl(ControlKind::OptionButton, "Option1", "&Profit Analysis ").value = true;
+    addControl(ControlKind::OptionButton, "Option2", "&Greek Analysis ");
+    addControl(ControlKind::Button, "CmdRun", "&Run");
+    addControl(ControlKind::Button, "CmdExit", "&Cancel");
+    on("CmdRun", EventType::Click, [this](Event&) { CmdRun(); });
+    on("CmdExit", EventType::Click, [this](Event&) { requestClose(); });
+    for (const std::string& name : {std::string("Form"), std::string("Option1"), std::string("Option2"),
+                                    std::string("CmdRun"), std::string("CmdExit")})
+        on(name, EventType::KeyDown, [this](Event& e) {
+            if (e.keyCode != keys::Escape) return;
+            e.keyCode = 0;
+            requestClose();
+        });
+}
+
+void FrmListGraph::openFrom(RiskSheet& sheet) {
+    GraphSource = sheet.isIndex() ? "Index" : "Stk";
+    show();
+}
+
+void FrmListGraph::CmdRun() {
+    BusyScope busy(ui());
+    RiskSheet& source = riskSheet(app(), GraphSource == "Index" ? SheetKind::Index : SheetKind::Stock);
+    GraphScreen& target = control("Option2").value
+                              ? static_cast<GraphScreen&>(app().screens().get<FrmNewGraphGreek>())
+                              : app().screens().get<FrmNewGraph>();
+    target.load();
+    target.launch(source, GraphSource);
+    target.show();
+}
+
+} // namespace tallimark
