@@ -9,6 +9,7 @@
 #include "admin/FrmNewScript.h"
 #include "admin/FrmScriptMast.h"
 #include "admin/Frmnth.h"
+#include "charges/ChargesSheet.h"
 #include "charges/FrmCharges.h"
 #include "frame/EmptyScreen.h"
 #include "frame/Form.h"
@@ -55,8 +56,10 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
         empty("FrmSpan_Load", "Load Span File"),
         empty("FrmCreatePon", "Create Position File"),
         empty("FrmTwoContract", "Two Contract Strategy Program"),
-        empty("FrmNewCharges", "Charges For the Day"),
-        empty("FrmChargesExl", "Charges Sheet....Tallimark"),
+        {ChargesSheet::kDayName,
+         [](App& app) { return std::make_unique<ChargesSheet>(app, ChargesEdition::Day); }},
+        {ChargesSheet::kSheetName,
+         [](App& app) { return std::make_unique<ChargesSheet>(app, ChargesEdition::Sheet); }},
         empty("FrmTradeTracker", "Trade Trail....Tallimark"),
         empty("FrmUpload", "Uploading The Data....Tallimark"),
         empty("FrmUploadFut", "Uploading The Data....Tallimark"),
