@@ -209,6 +209,18 @@ void ScriptDriver::perform(const std::string& line) {
             e.col = col;
             form.fire(controlOf(target), e);
         }
+    } else if (verb == "tick") {
+        Form& form = formOf(target);
+        Grid* grid = nullptr;
+        try {
+            grid = &form.grid(controlOf(target));
+        } catch (const VbError& e) {
+            throw ScriptError(lineNo_, e.text());
+        }
+        const int row = toInt(arg("row"), lineNo_);
+        if (row < 1 || row > grid->maxRows()) throw ScriptError(lineNo_, "no row " + std::to_string(row));
+        grid->setChecked(row, arg("0 or 1") != "0");
+        form.flush();
     } else if (verb == "answer") {
         const auto answer = answerFromName(target);
         if (!answer) throw ScriptError(lineNo_, "no answer " + target);

@@ -10,7 +10,9 @@
 #include "admin/FrmScriptMast.h"
 #include "admin/Frmnth.h"
 #include "charges/ChargesSheet.h"
+#include "charges/FrmCashFlow.h"
 #include "charges/FrmCharges.h"
+#include "charges/FrmClosing.h"
 #include "frame/EmptyScreen.h"
 #include "frame/Form.h"
 #include "frame/MDIForm1.h"
@@ -53,6 +55,8 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
         entry<FrmUnderlying_New>(),
         entry<FrmNewMainScreen>(),
         entry<FrmNewScript>(),
+        entry<FrmClosing>(),
+        entry<FrmCashFlow>(),
         empty("FrmSpan_Load", "Load Span File"),
         empty("FrmCreatePon", "Create Position File"),
         empty("FrmTwoContract", "Two Contract Strategy Program"),

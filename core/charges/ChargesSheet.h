@@ -48,7 +48,14 @@ public:
     void RefreshData1();
     void UpdateExpenses();
     void PrintRecords();
-    int mode() const { return Mode; }
+    // The closing entry hands its rates over before the load step reads the day's row.
+    void handOver(double tover, double conCh, double other, double dpCh, double stkInt) {
+        TOver = tover;
+        ConCh = conCh;
+        Other = other;
+        DpCh = dpCh;
+        StkInt = stkInt;
+    }
 
 private:
     // Rates and the figures between steps, as the screen's members.

@@ -7,6 +7,7 @@
 
 #include <map>
 
+using tallimark::Recordset;
 using tallimark::test::contains;
 using tallimark::test::Outcome;
 
@@ -113,6 +114,32 @@ TEST_F(ChargesWeek, TheStockSheetsDayEditionCarriesEachDaysBalance) {
     EXPECT_TRUE(std::filesystem::file_size(pdf) > 1000);
     EXPECT_TRUE(contains(r.all(), "Enter a number for Turn Over.")) << r.all();
     EXPECT_TRUE(contains(r.all(), "Error in UpdateExpenses Procedure: Type mismatch")) << r.all();
+}
+
+TEST_F(ChargesWeek, TheClosingEntryAndTheCashFlowFollowTheWeek) {
+    const std::string pdf = (dir_ / "flow.pdf").string();
+    const Outcome r =
+        script(prepare(tallimark::test::kSavedSheets[0]) + week("FrmNewCharges", false) +
+               "menu MDIForm1.mnuclosing\nset FrmClosing.DTPicker1 26-11-2026\n"
+               "set FrmClosing.TxtClMtm 1020\nset FrmClosing.TxtClStk 1020\nclick FrmClosing.Command1\n"
+               "dump FrmChargesExl\nclick FrmChargesExl.Cmd(0)\ntick FrmNewMainScreen.ListView1 1 1\nmenu MDIForm1.mnucashflow\n"
+               "dump FrmCashFlow\nprint " +
+               pdf + "\nclick FrmCashFlow.Cmd(0)\n");
+    ASSERT_EQ(r.exitCode, 0) << r.all();
+    auto s = store();
+    // The new row opens with the closing balance of the calendar day before.
+    EXPECT_EQ(s->query("select OpBal from Closing where Dt = '26-11-2026'").at(0).text(),
+              s->query("select ClBal from Closing where Dt = '25-11-2026'").at(0).text());
+    EXPECT_EQ(field(r.dump("FrmChargesExl"), "TxtClMtm"), "1020");
+    // Four days, each opening with the total of the day before.
+    EXPECT_EQ(s->query("select count(*) from ExpTemp").at(0).text(), "4");
+    for (Recordset a =
+             s->query("select e.Opbal, (select TotAmt from ExpTemp p where p.Dt < e.Dt order by p.Dt "
+                      "desc limit 1) from ExpTemp e where e.Dt > '2026-11-20'");
+         !a.eof(); a.moveNext())
+        EXPECT_EQ(a.at(0).text(), a.at(1).text());
+    EXPECT_TRUE(contains(r.all(), R"({"report":"CashFlow")")) << r.all();
+    EXPECT_GT(std::filesystem::file_size(pdf), 1000u);
 }
 
 TEST_F(ChargesWeek, TheIndexSheetsEditionSumsEarlierCharges) {
