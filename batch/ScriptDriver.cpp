@@ -4,11 +4,15 @@
 #include "frame/App.h"
 #include "frame/Canvas.h"
 #include "frame/Form.h"
+#include "reports/ReportDocument.h"
+
 #ifdef TALLIMARK_RENDER
+#include "ReportPainter.h"
 #include "canvas/ImageCanvas.h"
 #endif
 
 #include <sstream>
+#include <utility>
 
 namespace tallimark {
 
@@ -45,6 +49,23 @@ ScriptDriver::ScriptDriver(App& app, ScriptedUi& ui, std::istream& in, std::ostr
     : app_(app), ui_(ui), in_(in), out_(out) {
     ui_.setModalRunner([this](Form& form) { runUntilHidden(form); });
     ui_.setBoxListener([this](const ShownBox& shown) { out_ << boxJson(shown) << '\n' << std::flush; });
+    ui_.setReportListener([this](const ReportDocument& doc) { printed(doc); });
+}
+
+void ScriptDriver::printed(const ReportDocument& doc) {
+    out_ << reportJson(doc) << '\n' << std::flush;
+#ifdef TALLIMARK_RENDER
+    if (nextPdf_.empty()) return;
+    const std::string path = std::exchange(nextPdf_, {});
+    // The screen's own trap must not take a failure of the script's file: it stops the script
+    // once the line has run.
+    try {
+        render::writeReportPdf(doc, path);
+        out_ << "{\"pdf\":" << jsonString(path) << "}\n" << std::flush;
+    } catch (const std::exception& e) {
+        pdfFailure_ = e.what();
+    }
+#endif
 }
 
 void ScriptDriver::run() {
@@ -74,6 +95,7 @@ bool ScriptDriver::step() {
             // What the line asked of a screen outside any event: no handler's to trap.
             throw ScriptError(lineNo_, e.what());
         }
+        if (!pdfFailure_.empty()) throw ScriptError(lineNo_, std::exchange(pdfFailure_, {}));
         app_.screens().collect();
         return true;
     }
@@ -219,12 +241,31 @@ void ScriptDriver::perform(const std::string& line) {
             e.col = col;
             form.fire(controlOf(target), e);
         }
+    } else if (verb == "tick") {
+        Form& form = formOf(target);
+        Grid* grid = nullptr;
+        try {
+            grid = &form.grid(controlOf(target));
+        } catch (const VbError& e) {
+            throw ScriptError(lineNo_, e.text());
+        }
+        const int row = toInt(arg("row"), lineNo_);
+        if (row < 1 || row > grid->maxRows()) throw ScriptError(lineNo_, "no row " + std::to_string(row));
+        grid->setChecked(row, arg("0 or 1") != "0");
+        form.flush();
     } else if (verb == "answer") {
         const auto answer = answerFromName(target);
         if (!answer) throw ScriptError(lineNo_, "no answer " + target);
         ui_.queueAnswer(*answer);
     } else if (verb == "file") {
         ui_.queueFile(target == "cancel" ? std::nullopt : std::optional<std::string>(restAfter(line, 1)));
+    } else if (verb == "print") {
+#ifndef TALLIMARK_RENDER
+        throw ScriptError(lineNo_,
+                          "print needs the rendering layer: this tallimark-batch was built without Qt");
+#endif
+        nextPdf_ = restAfter(line, 1);
+        if (nextPdf_.empty()) throw ScriptError(lineNo_, "missing the PDF's path in: " + line);
     } else if (verb == "dump") {
         out_ << formJson(formOf(target)) << '\n' << std::flush;
     } else if (verb == "graph") {

@@ -11,6 +11,7 @@ namespace tallimark {
 
 class App;
 class Form;
+struct ReportDocument;
 
 // A line the driver cannot carry out: the script stops there, at whatever depth the line ran,
 // inside a modal screen too. Not a std::exception on purpose: the screens' traps catch those and
@@ -36,6 +37,7 @@ private:
     bool step();                     // one line; false at the end of the script
     void runUntilHidden(Form& form); // a modal screen's share of the script
     void perform(const std::string& line);
+    void printed(const ReportDocument& doc); // a report run: its JSON line, and its PDF if asked
     Form& formOf(const std::string& target);
     std::string controlOf(const std::string& target);
     // Ticks or clears a row's check box as a click on it in the window does.
@@ -48,6 +50,8 @@ private:
     std::istream& in_;
     std::ostream& out_;
     int lineNo_ = 0;
+    std::string nextPdf_;    // `print PATH`: where the next report run goes
+    std::string pdfFailure_; // why that PDF could not be written
 };
 
 } // namespace tallimark

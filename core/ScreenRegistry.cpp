@@ -9,7 +9,10 @@
 #include "admin/FrmNewScript.h"
 #include "admin/FrmScriptMast.h"
 #include "admin/Frmnth.h"
+#include "charges/ChargesSheet.h"
+#include "charges/FrmCashFlow.h"
 #include "charges/FrmCharges.h"
+#include "charges/FrmClosing.h"
 #include "frame/EmptyScreen.h"
 #include "frame/Form.h"
 #include "frame/MDIForm1.h"
@@ -59,11 +62,15 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
         entry<FrmUnderlying_New>(),
         entry<FrmNewMainScreen>(),
         entry<FrmNewScript>(),
+        entry<FrmClosing>(),
+        entry<FrmCashFlow>(),
         empty("FrmSpan_Load", "Load Span File"),
         empty("FrmCreatePon", "Create Position File"),
         entry<FrmTwoContract>(),
-        empty("FrmNewCharges", "Charges For the Day"),
-        empty("FrmChargesExl", "Charges Sheet....Tallimark"),
+        {ChargesSheet::kDayName,
+         [](App& app) { return std::make_unique<ChargesSheet>(app, ChargesEdition::Day); }},
+        {ChargesSheet::kSheetName,
+         [](App& app) { return std::make_unique<ChargesSheet>(app, ChargesEdition::Sheet); }},
         entry<FrmTradeTracker>(),
         entry<FrmTrail>(),
         {FrmUpload::kStockName, [](App& app) { return std::make_unique<FrmUpload>(app, SheetKind::Stock); }},

@@ -10,6 +10,7 @@
 namespace tallimark {
 
 class Form;
+struct ReportDocument;
 
 enum class MsgButtons { Ok, OkCancel, AbortRetryIgnore, YesNoCancel, YesNo, RetryCancel };
 enum class MsgIcon { None, Critical, Question, Exclamation, Information };
@@ -57,6 +58,8 @@ public:
     // Part way through a long step of the one user thread: the windows paint what the models
     // changed (a count of lines read, say), taking no input. Nothing to do without a display.
     virtual void showProgress() {}
+    // A printed report, laid out into pages: the window previews it for the printer.
+    virtual void showReport(const ReportDocument& document) = 0;
     // End: the process stops here.
     [[noreturn]] virtual void endProgram() = 0;
 

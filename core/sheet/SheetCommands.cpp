@@ -1,4 +1,5 @@
 // The sheet's toolbar, its menu and keys, the two trade entries and the close of the screen.
+#include "charges/ChargesSheet.h"
 #include "frame/App.h"
 #include "frame/ComProc.h"
 #include "frame/VbFormat.h"
@@ -200,10 +201,13 @@ void RiskSheet::underlyingTrade() {
 }
 
 void RiskSheet::openCommandScreen(const std::string& key) {
+    if (key == "Cash") {
+        BusyScope busy(ui());
+        Expenses(app(), *this, isIndex());
+        return;
+    }
     const char* screen = nullptr;
-    if (key == "Cash")
-        screen = isIndex() ? "FrmChargesExl" : "FrmNewCharges";
-    else if (key == "Simulate")
+    if (key == "Simulate")
         screen = "FrmSimulation";
     else if (key == "Graph")
         screen = "FrmListGraph";

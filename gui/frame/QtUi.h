@@ -32,6 +32,7 @@ public:
     void formHidden(Form& form) override;
     std::optional<std::string> fileDialog(const FileDialog& dialog) override;
     void statusMessage(const std::string& text) override;
+    void showReport(const ReportDocument& document) override;
     [[noreturn]] void endProgram() override;
 
     // The view of a screen while it is shown, else nullptr.
