@@ -2,6 +2,7 @@
 
 #include "frame/Form.h"
 #include "frame/ScriptedUi.h"
+#include "reports/ReportDocument.h"
 
 #include <cstdio>
 #include <stdexcept>
@@ -65,6 +66,24 @@ std::string jsonUnquote(std::string_view s) {
         }
     }
     return out;
+}
+
+std::string reportJson(const ReportDocument& doc) {
+    std::string s =
+        "{\"report\":" + jsonString(doc.name) + ",\"title\":" + jsonString(doc.title) + ",\"orientation\":" +
+        jsonString(doc.orientation == Orientation::Portrait ? "portrait" : "landscape") + ",\"pages\":[";
+    for (size_t p = 0; p < doc.pages.size(); ++p) {
+        s += p ? ",[" : "[";
+        const auto& lines = doc.pages[p].lines;
+        for (size_t l = 0; l < lines.size(); ++l) {
+            s += l ? ",[" : "[";
+            for (size_t c = 0; c < lines[l].cells.size(); ++c)
+                s += (c ? "," : "") + jsonString(lines[l].cells[c].text);
+            s += "]";
+        }
+        s += "]";
+    }
+    return s + "]}";
 }
 
 std::string boxJson(const ShownBox& shown) {

@@ -3,8 +3,14 @@
 #include "Json.h"
 #include "frame/App.h"
 #include "frame/Form.h"
+#include "reports/ReportDocument.h"
+
+#ifdef TALLIMARK_RENDER
+#include "ReportPainter.h"
+#endif
 
 #include <sstream>
+#include <utility>
 
 namespace tallimark {
 
@@ -41,6 +47,23 @@ ScriptDriver::ScriptDriver(App& app, ScriptedUi& ui, std::istream& in, std::ostr
     : app_(app), ui_(ui), in_(in), out_(out) {
     ui_.setModalRunner([this](Form& form) { runUntilHidden(form); });
     ui_.setBoxListener([this](const ShownBox& shown) { out_ << boxJson(shown) << '\n' << std::flush; });
+    ui_.setReportListener([this](const ReportDocument& doc) { printed(doc); });
+}
+
+void ScriptDriver::printed(const ReportDocument& doc) {
+    out_ << reportJson(doc) << '\n' << std::flush;
+#ifdef TALLIMARK_RENDER
+    if (nextPdf_.empty()) return;
+    const std::string path = std::exchange(nextPdf_, {});
+    // The screen's own trap must not take a failure of the script's file: it stops the script
+    // once the line has run.
+    try {
+        render::writeReportPdf(doc, path);
+        out_ << "{\"pdf\":" << jsonString(path) << "}\n" << std::flush;
+    } catch (const std::exception& e) {
+        pdfFailure_ = e.what();
+    }
+#endif
 }
 
 void ScriptDriver::run() {
@@ -63,6 +86,7 @@ bool ScriptDriver::step() {
         const size_t first = line.find_first_not_of(' ');
         if (first == std::string::npos || line[first] == '#') continue;
         perform(line.substr(first));
+        if (!pdfFailure_.empty()) throw ScriptError(lineNo_, std::exchange(pdfFailure_, {}));
         app_.screens().collect();
         return true;
     }
@@ -191,6 +215,13 @@ void ScriptDriver::perform(const std::string& line) {
         ui_.queueAnswer(*answer);
     } else if (verb == "file") {
         ui_.queueFile(target == "cancel" ? std::nullopt : std::optional<std::string>(restAfter(line, 1)));
+    } else if (verb == "print") {
+#ifndef TALLIMARK_RENDER
+        throw ScriptError(lineNo_,
+                          "print needs the rendering layer: this tallimark-batch was built without Qt");
+#endif
+        nextPdf_ = restAfter(line, 1);
+        if (nextPdf_.empty()) throw ScriptError(lineNo_, "missing the PDF's path in: " + line);
     } else if (verb == "dump") {
         out_ << formJson(formOf(target)) << '\n' << std::flush;
     } else if (verb == "close") {

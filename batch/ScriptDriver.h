@@ -12,6 +12,7 @@ namespace tallimark {
 
 class App;
 class Form;
+struct ReportDocument;
 
 // A line the driver cannot carry out: the script stops there.
 class ScriptError : public std::runtime_error {
@@ -32,6 +33,7 @@ private:
     bool step();                     // one line; false at the end of the script
     void runUntilHidden(Form& form); // a modal screen's share of the script
     void perform(const std::string& line);
+    void printed(const ReportDocument& doc); // a report run: its JSON line, and its PDF if asked
     Form& formOf(const std::string& target);
     std::string controlOf(const std::string& target);
 
@@ -40,6 +42,8 @@ private:
     std::istream& in_;
     std::ostream& out_;
     int lineNo_ = 0;
+    std::string nextPdf_;    // `print PATH`: where the next report run goes
+    std::string pdfFailure_; // why that PDF could not be written
 };
 
 } // namespace tallimark

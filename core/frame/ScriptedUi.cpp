@@ -42,6 +42,11 @@ std::optional<std::string> ScriptedUi::fileDialog(const FileDialog&) {
     return f;
 }
 
+void ScriptedUi::showReport(const ReportDocument& document) {
+    reports_.push_back(document);
+    if (reportListener_) reportListener_(reports_.back());
+}
+
 void ScriptedUi::endProgram() {
     throw ProgramEnd();
 }

@@ -8,6 +8,7 @@
 namespace tallimark {
 
 class Form;
+struct ReportDocument;
 
 enum class MsgButtons { Ok, OkCancel, AbortRetryIgnore, YesNoCancel, YesNo, RetryCancel };
 enum class MsgIcon { None, Critical, Question, Exclamation, Information };
@@ -48,6 +49,8 @@ public:
     virtual void formHidden(Form& form) = 0;
     // The chosen path, or nothing when the user cancelled.
     virtual std::optional<std::string> fileDialog(const FileDialog& dialog) = 0;
+    // A printed report, laid out into pages: the window previews it for the printer.
+    virtual void showReport(const ReportDocument& document) = 0;
     // End: the process stops here.
     [[noreturn]] virtual void endProgram() = 0;
 };

@@ -6,6 +6,7 @@
 #include "frame/Form.h"
 #include "frame/FormBinder.h"
 #include "frame/MainWindow.h"
+#include "frame/ReportPreview.h"
 #include "frame/ScriptedUi.h"
 
 #include <QApplication>
@@ -254,6 +255,10 @@ void QtUi::endProgram() {
 QWidget* QtUi::viewOf(const Form& form) const {
     auto it = shown_.find(const_cast<Form*>(&form));
     return it == shown_.end() ? nullptr : it->second.view;
+}
+
+void QtUi::showReport(const ReportDocument& document) {
+    showReportPreview(document, activeWindow());
 }
 
 QWidget* QtUi::activeWindow() const {

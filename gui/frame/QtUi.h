@@ -30,6 +30,7 @@ public:
     void showForm(Form& form) override;
     void formHidden(Form& form) override;
     std::optional<std::string> fileDialog(const FileDialog& dialog) override;
+    void showReport(const ReportDocument& document) override;
     [[noreturn]] void endProgram() override;
 
     // The view of a screen while it is shown, else nullptr.
