@@ -14,6 +14,7 @@
 #include "frame/Form.h"
 #include "frame/MDIForm1.h"
 #include "pricing/FrmCalc.h"
+#include "reports/FrmPrintOption.h"
 #include "sheet/FrmSettingStrike.h"
 #include "sheet/RiskSheet.h"
 #include "tracker/FrmOption.h"
@@ -62,7 +63,7 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
         empty("FrmUploadFut", "Uploading The Data....Tallimark"),
         empty("FrmSimulation", "Simulation....Tallimark"),
         empty("FrmListGraph", "Graphical Analysis.......By Tallimark"),
-        empty("FrmPrintOption", "Different Print Options....Tallimark"),
+        entry<FrmPrintOption>(),
         entry<FrmScriptMast>(),
         entry<Frmnth>(),
         entry<FrmCharges>(),

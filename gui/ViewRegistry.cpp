@@ -23,6 +23,8 @@
 #include "frame/MainWindow.h"
 #include "pricing/CalcView.h"
 #include "pricing/FrmCalc.h"
+#include "reports/FrmPrintOption.h"
+#include "reports/PrintOptionView.h"
 #include "sheet/FrmSettingStrike.h"
 #include "sheet/RiskSheet.h"
 #include "sheet/SheetView.h"
@@ -73,6 +75,7 @@ const std::map<std::string, Maker, std::less<>> kViews = {
     {RiskSheet::kStockName, make<SheetView>},
     {RiskSheet::kIndexName, make<SheetView>},
     {FrmSettingStrike::kName, make<StrikeSettingView>},
+    {FrmPrintOption::kName, make<PrintOptionView>},
 };
 
 } // namespace

@@ -1,0 +1,171 @@
+#include "reports/SheetReports.h"
+
+namespace tallimark {
+
+namespace {
+
+// Every sheet report names its sheet from the run's values, so a run without rows still does.
+const char* const kSheetHeading = "Sheet {@Symbol}   {@Descr}";
+const char* const kRangeHeading = "Trades from {@FDt} to {@TDt}";
+
+ReportColumn money(const char* caption, const char* source, bool total = true) {
+    return {caption, source, 28, Align::Right, figure::kMoney, total};
+}
+ReportColumn units(const char* caption, const char* source, bool total = true) {
+    return {caption, source, 22, Align::Right, figure::kUnits, total};
+}
+ReportColumn plain(const char* caption, const char* source, double width,
+                   const char* format = figure::kText) {
+    return {caption, source, width, Align::Left, format, false};
+}
+StatementLine section(const char* label) {
+    return {label, "", figure::kText};
+}
+StatementLine line(const char* label, const char* source, const char* format = figure::kMoney) {
+    return {label, source, format};
+}
+
+// The trades of one sheet's options, one line per strike and call/put.
+const char* const kOptionSums =
+    "select TradeDt, Strike, CP, sum(case when CP = 'C' then Units else 0 end) as CUnits, "
+    "sum(case when CP = 'P' then Units else 0 end) as PUnits, "
+    "sum(-(Units) * (Traded)) as Premium from Tracker";
+
+std::vector<ReportColumn> optionSumColumns() {
+    return {money("Strike", "Strike", false), plain("C/P", "CP", 14), units("Call units", "CUnits"),
+            units("Put units", "PUnits"), money("Premium", "Premium")};
+}
+
+} // namespace
+
+ReportLayout fullSheetLayout() {
+    ReportLayout l;
+    l.title = "Risk Management Sheet";
+    l.orientation = Orientation::Landscape;
+    // The sheet's own greek totals share names with the rows' values: the rows' are renamed.
+    // The selection names both tables, so they keep their names here.
+    l.rows = "select PortfolioMast.*, PortfolioDet.Strike, PortfolioDet.CP, PortfolioDet.Units, "
+             "PortfolioDet.Traded, PortfolioDet.Last, PortfolioDet.Vol, PortfolioDet.Delta, "
+             "PortfolioDet.DeltaVal as DDeltaVal, PortfolioDet.Theta, PortfolioDet.ThetaVal as DThetaVal, "
+             "PortfolioDet.Gamma, PortfolioDet.GammaVal as DGammaVal, PortfolioDet.Vega, "
+             "PortfolioDet.VegaVal as DVegaVal from PortfolioMast inner join PortfolioDet "
+             "on PortfolioMast.Symbol = PortfolioDet.Symbol and PortfolioMast.Descr = PortfolioDet.Descr";
+    l.orderBy = "order by PortfolioDet.Strike, PortfolioDet.CP";
+    l.headings = {kSheetHeading, "Market price {MktPrice}   Days {Days}   Expiry {ExpDt}   Date {Dt}"};
+    const char* greek = "0.0000";
+    l.columns = {
+        money("Strike", "Strike", false),
+        plain("C/P", "CP", 10),
+        units("Units", "Units"),
+        money("Traded", "Traded", false),
+        money("Last", "Last", false),
+        {"Vol", "Vol", 14, Align::Right, "0.00"},
+        {"Delta", "Delta", 18, Align::Right, greek},
+        money("Delta val", "DDeltaVal"),
+        {"Theta", "Theta", 18, Align::Right, greek},
+        money("Theta val", "DThetaVal"),
+        {"Gamma", "Gamma", 18, Align::Right, greek},
+        money("Gamma val", "DGammaVal"),
+        {"Vega", "Vega", 18, Align::Right, greek},
+        money("Vega val", "DVegaVal"),
+    };
+    l.emptyText = "The sheet holds no open positions.";
+    const char* missing = "not set for this script";
+    l.summary = {
+        section("Balances"),
+        line("Delta neutral", "DelNeutral"),
+        line("Premium", "Premium"),
+        line("Fut/Stk (unrealised)", "FutureU"),
+        line("Option (unrealised)", "OptionU"),
+        line("Fut/Stk (realised)", "FutureR"),
+        line("Option (realised)", "OptionR"),
+        {"Balance", "Balance", figure::kMoney, true},
+        section("Scenarios: balance at a market price"),
+        line("10% up, at {Up1MktPrice}", "Up1Bal"),
+        line("10% down, at {Dn1MktPrice}", "Dn1Bal"),
+        line("20% up, at {Up2MktPrice}", "Up2Bal"),
+        line("20% down, at {Dn2MktPrice}", "Dn2Bal"),
+        section("Futures, stock and expenses"),
+        line("Future/Stock units", "@FUnits", figure::kUnits),
+        line("Future/Stock average price", "@FTrade"),
+        line("Equity units", "@EUnits", figure::kUnits),
+        line("Equity average price", "@ETrade"),
+        line("Future margin", "@FMargin"),
+        line("Today's expenses", "@Exp1"),
+        line("Expenses", "@Exp"),
+        section("Gamma limits of the script"),
+        {"Limit (crores)", "@Limit_Cr", figure::kMoney, false, missing},
+        {"First gamma", "@First_Gamma", figure::kText, false, missing},
+        {"Second gamma", "@F_Gamma1", figure::kText, false, missing},
+        {"Last gamma", "@Last_Gamma", figure::kText, false, missing},
+    };
+    return l;
+}
+
+ReportLayout callPutSummaryLayout() {
+    ReportLayout l;
+    l.title = "Call / Put Summary";
+    l.rows = kOptionSums;
+    l.orderBy = "group by TradeDt, Strike, CP order by TradeDt, Strike, CP";
+    l.headings = {kSheetHeading, kRangeHeading};
+    l.columns = optionSumColumns();
+    l.bandBy = "TradeDt";
+    l.emptyText = "No option trades in this date range.";
+    return l;
+}
+
+ReportLayout callPutPositionLayout() {
+    ReportLayout l;
+    l.title = "Call / Put Summary as on Date";
+    l.rows = kOptionSums;
+    l.orderBy = "group by Strike, CP order by Strike, CP";
+    l.headings = {kSheetHeading, "All option trades to date"};
+    l.columns = optionSumColumns();
+    l.emptyText = "The sheet has no option trades.";
+    return l;
+}
+
+ReportLayout callPutDetailLayout() {
+    ReportLayout l;
+    l.title = "Call / Put Detail";
+    l.rows = "select TradeDt, Strike, CP, Units, Traded, -(Units) * (Traded) as Premium from Tracker";
+    l.orderBy = "order by TradeDt, Strike, CP";
+    l.headings = {kSheetHeading, kRangeHeading};
+    l.columns = {money("Strike", "Strike", false), plain("C/P", "CP", 14), units("Units", "Units", false),
+                 money("Traded", "Traded", false), money("Premium", "Premium")};
+    l.bandBy = "TradeDt";
+    l.emptyText = "No option trades in this date range.";
+    return l;
+}
+
+ReportLayout futStkSummaryLayout() {
+    ReportLayout l;
+    l.title = "Future / Stock Summary";
+    l.rows = "select TradeDt, sum(case when CashType = 'F' then Units else 0 end) as Funits, "
+             "sum(case when CashType = 'Q' then Units else 0 end) as Sunits, "
+             "sum(-(Units) * (Traded)) as Amount from Tracker";
+    l.orderBy = "group by TradeDt order by TradeDt";
+    l.headings = {kSheetHeading, kRangeHeading};
+    l.columns = {plain("Trade date", "TradeDt", 28, "DD-MM-YYYY"), units("Future units", "Funits"),
+                 units("Stock units", "Sunits"), money("Amount", "Amount")};
+    l.emptyText = "No futures or stock trades in this date range.";
+    return l;
+}
+
+ReportLayout futStkDetailLayout() {
+    ReportLayout l;
+    l.title = "Future / Stock Detail";
+    l.rows = "select TradeDt, case when CashType = 'F' then 'Future' else 'Stock' end as Kind, "
+             "case when CashType = 'F' then Units end as Funits, "
+             "case when CashType = 'Q' then Units end as Sunits, Traded, -(Units) * (Traded) as Amount "
+             "from Tracker";
+    l.orderBy = "order by TradeDt";
+    l.headings = {kSheetHeading, kRangeHeading};
+    l.columns = {plain("Kind", "Kind", 28), units("Future units", "Funits"), units("Stock units", "Sunits"),
+                 money("Traded", "Traded", false), money("Amount", "Amount")};
+    l.bandBy = "TradeDt";
+    l.emptyText = "No futures or stock trades in this date range.";
+    return l;
+}
+
+} // namespace tallimark
