@@ -81,6 +81,7 @@ public:
         if (hasTotals() && !data_.rows.empty())
             put(totalLine(LineStyle::Total, layout_.totalCaption, grand_));
         if (data_.rows.empty()) put(make(LineStyle::Text, {{layout_.emptyText, 0, doc_.pageWidth()}}));
+        tableDone_ = true; // pages of the closing statement carry no column heads
         if (!layout_.summary.empty()) y_ += kGap;
         statement(layout_.summary, 0);
         const size_t n = doc_.pages.size();
@@ -216,7 +217,7 @@ private:
         for (const auto& h : layout_.headings)
             head(make(LineStyle::Heading, {{fill(h, 0), 0, doc_.pageWidth(), Align::Center}}));
         y_ += kGap;
-        if (!layout_.columns.empty()) {
+        if (!layout_.columns.empty() && !tableDone_) {
             std::vector<std::string> caps;
             for (const auto& c : layout_.columns)
                 caps.push_back(c.caption);
@@ -231,6 +232,7 @@ private:
     double y_ = 0;
     std::vector<double> grand_, bandSums_;
     std::string bandKey_;
+    bool tableDone_ = false;
 };
 
 } // namespace

@@ -9,7 +9,7 @@ const char* const kSheetHeading = "Sheet {@Symbol}   {@Descr}";
 const char* const kRangeHeading = "Trades from {@FDt} to {@TDt}";
 
 ReportColumn money(const char* caption, const char* source, bool total = true) {
-    return {caption, source, 28, Align::Right, figure::kMoney, total};
+    return {caption, source, 24, Align::Right, figure::kMoney, total};
 }
 ReportColumn units(const char* caption, const char* source, bool total = true) {
     return {caption, source, 22, Align::Right, figure::kUnits, total};
@@ -54,11 +54,11 @@ ReportLayout fullSheetLayout() {
     l.headings = {kSheetHeading, "Market price {MktPrice}   Days {Days}   Expiry {ExpDt}   Date {Dt}"};
     const char* greek = "0.0000";
     l.columns = {
-        money("Strike", "Strike", false),
+        {"Strike", "Strike", 22, Align::Right, figure::kMoney},
         plain("C/P", "CP", 10),
-        units("Units", "Units"),
-        money("Traded", "Traded", false),
-        money("Last", "Last", false),
+        {"Units", "Units", 16, Align::Right, figure::kUnits, true},
+        {"Traded", "Traded", 22, Align::Right, figure::kMoney},
+        {"Last", "Last", 22, Align::Right, figure::kMoney},
         {"Vol", "Vol", 14, Align::Right, "0.00"},
         {"Delta", "Delta", 18, Align::Right, greek},
         money("Delta val", "DDeltaVal"),
