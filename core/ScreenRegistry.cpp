@@ -15,6 +15,7 @@
 #include "frame/MDIForm1.h"
 #include "pricing/FrmCalc.h"
 #include "reports/FrmPrintOption.h"
+#include "reports/FrmReport.h"
 #include "sheet/FrmSettingStrike.h"
 #include "sheet/RiskSheet.h"
 #include "tracker/FrmOption.h"
@@ -64,6 +65,7 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
         empty("FrmSimulation", "Simulation....Tallimark"),
         empty("FrmListGraph", "Graphical Analysis.......By Tallimark"),
         entry<FrmPrintOption>(),
+        entry<FrmReport>(),
         entry<FrmScriptMast>(),
         entry<Frmnth>(),
         entry<FrmCharges>(),

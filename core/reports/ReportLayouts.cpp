@@ -30,6 +30,11 @@ const std::map<std::string, ReportLayout, NoCase>& layouts() {
         {"Call1", callPutDetailLayout()},
         {"FutStkSum", futStkSummaryLayout()},
         {"FutStkDet", futStkDetailLayout()},
+        {"DataRptMain", sheetSummaryLayout()},
+        {"DataRptCallSummary1", callSummaryDataLayout("Call / Put Summary", "CallSummary1")},
+        {"DataRptCall1", callSummaryDataLayout("Call / Put Detail", "Call1")},
+        {"DataRptFutStkSum", futStkDataLayout(false)},
+        {"DataRptFutStkDet", futStkDataLayout(true)},
     };
     return all;
 }

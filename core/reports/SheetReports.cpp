@@ -36,6 +36,38 @@ std::vector<ReportColumn> optionSumColumns() {
             units("Put units", "PUnits"), money("Premium", "Premium")};
 }
 
+// The sheet's balances and the balance at the four market prices of its scenarios.
+std::vector<StatementLine> balancesAndScenarios() {
+    return {
+        section("Balances"),
+        line("Delta neutral", "DelNeutral"),
+        line("Premium", "Premium"),
+        line("Fut/Stk (unrealised)", "FutureU"),
+        line("Option (unrealised)", "OptionU"),
+        line("Fut/Stk (realised)", "FutureR"),
+        line("Option (realised)", "OptionR"),
+        {"Balance", "Balance", figure::kMoney, true},
+        section("Scenarios: balance at a market price"),
+        line("10% up, at {Up1MktPrice}", "Up1Bal"),
+        line("10% down, at {Dn1MktPrice}", "Dn1Bal"),
+        line("20% up, at {Up2MktPrice}", "Up2Bal"),
+        line("20% down, at {Dn2MktPrice}", "Dn2Bal"),
+    };
+}
+
+ReportLayout workTableLayout(const char* title, const char* table, std::vector<ReportColumn> columns,
+                             const char* band) {
+    ReportLayout l;
+    l.title = title;
+    l.rows = std::string("select * from ") + table;
+    l.orderBy = "order by TradeDt";
+    l.headings = {"Sheet {@LblSymbol}   {@LblDescription}", "From {@LblFdate} to {@LblTdate}"};
+    l.columns = std::move(columns);
+    l.bandBy = band;
+    l.emptyText = "No trades in this date range.";
+    return l;
+}
+
 } // namespace
 
 ReportLayout fullSheetLayout() {
@@ -71,34 +103,22 @@ ReportLayout fullSheetLayout() {
     };
     l.emptyText = "The sheet holds no open positions.";
     const char* missing = "not set for this script";
-    l.summary = {
-        section("Balances"),
-        line("Delta neutral", "DelNeutral"),
-        line("Premium", "Premium"),
-        line("Fut/Stk (unrealised)", "FutureU"),
-        line("Option (unrealised)", "OptionU"),
-        line("Fut/Stk (realised)", "FutureR"),
-        line("Option (realised)", "OptionR"),
-        {"Balance", "Balance", figure::kMoney, true},
-        section("Scenarios: balance at a market price"),
-        line("10% up, at {Up1MktPrice}", "Up1Bal"),
-        line("10% down, at {Dn1MktPrice}", "Dn1Bal"),
-        line("20% up, at {Up2MktPrice}", "Up2Bal"),
-        line("20% down, at {Dn2MktPrice}", "Dn2Bal"),
-        section("Futures, stock and expenses"),
-        line("Future/Stock units", "@FUnits", figure::kUnits),
-        line("Future/Stock average price", "@FTrade"),
-        line("Equity units", "@EUnits", figure::kUnits),
-        line("Equity average price", "@ETrade"),
-        line("Future margin", "@FMargin"),
-        line("Today's expenses", "@Exp1"),
-        line("Expenses", "@Exp"),
-        section("Gamma limits of the script"),
-        {"Limit (crores)", "@Limit_Cr", figure::kMoney, false, missing},
-        {"First gamma", "@First_Gamma", figure::kText, false, missing},
-        {"Second gamma", "@F_Gamma1", figure::kText, false, missing},
-        {"Last gamma", "@Last_Gamma", figure::kText, false, missing},
-    };
+    l.summary = balancesAndScenarios();
+    l.summary.insert(l.summary.end(), {
+                                          section("Futures, stock and expenses"),
+                                          line("Future/Stock units", "@FUnits", figure::kUnits),
+                                          line("Future/Stock average price", "@FTrade"),
+                                          line("Equity units", "@EUnits", figure::kUnits),
+                                          line("Equity average price", "@ETrade"),
+                                          line("Future margin", "@FMargin"),
+                                          line("Today's expenses", "@Exp1"),
+                                          line("Expenses", "@Exp"),
+                                          section("Gamma limits of the script"),
+                                          {"Limit (crores)", "@Limit_Cr", figure::kMoney, false, missing},
+                                          {"First gamma", "@First_Gamma", figure::kText, false, missing},
+                                          {"Second gamma", "@F_Gamma1", figure::kText, false, missing},
+                                          {"Last gamma", "@Last_Gamma", figure::kText, false, missing},
+                                      });
     return l;
 }
 
@@ -166,6 +186,56 @@ ReportLayout futStkDetailLayout() {
     l.bandBy = "TradeDt";
     l.emptyText = "No futures or stock trades in this date range.";
     return l;
+}
+
+ReportLayout sheetSummaryLayout() {
+    ReportLayout l = fullSheetLayout();
+    l.title = "Risk Management Sheet ....";
+    l.headings[0] = "Sheet {@Symbol}   {@Descr}";
+    const std::string from = " from PortfolioMast";
+    l.rows.replace(
+        l.rows.find(from), from.size(),
+        ", ScriptMast.First_Gamma as SFirst, ScriptMast.Week_Gamma as SWeek, ScriptMast.Limit_Cr as "
+        "SLimit from PortfolioMast");
+    l.rows += " left join ScriptMast on substr(PortfolioMast.Symbol, 1, 3) = ScriptMast.ScrCode";
+    const char* missing = "not set for this script";
+    l.summary = balancesAndScenarios();
+    l.summary.insert(l.summary.end(), {
+                                          section("Futures, stock and expenses"),
+                                          line("Future/Stock:", "@LblFuture_Stock", figure::kUnits),
+                                          line("Future/Stock average price", "@LblFut_Traded"),
+                                          line("Equity:", "@LblEquity", figure::kUnits),
+                                          line("Equity average price", "@LblEq_Traded"),
+                                          line("Today's Expenses:", "@LblTExpenses"),
+                                          line("Expenses:", "@LblExpenses"),
+                                          line("Total Exposure (in Corers):", "@LblTot_Exposure"),
+                                          line("Option Margin:", "@LblOption_Margin"),
+                                          line("Future Margin:", "@LblFuture_Margin"),
+                                          section("Gamma limits of the script"),
+                                          {"Limit (crores)", "SLimit", figure::kMoney, false, missing},
+                                          {"First gamma", "SFirst", figure::kText, false, missing},
+                                          {"Last gamma", "SWeek", figure::kText, false, missing},
+                                      });
+    return l;
+}
+
+ReportLayout callSummaryDataLayout(const char* title, const char* table) {
+    return workTableLayout(title, table,
+                           {money("Strike", "Strike", false), plain("C/P", "CP", 14),
+                            money("Traded", "Traded", false), units("Call units", "CUnits"),
+                            units("Put units", "PUnits"), money("Premium", "Premium")},
+                           "TradeDt");
+}
+
+ReportLayout futStkDataLayout(bool detail) {
+    std::vector<ReportColumn> columns = {units("Future units", "Funits"), units("Stock units", "Sunits")};
+    if (detail) {
+        columns.insert(columns.begin(), plain("", "", 20));
+        columns.push_back(money("Traded", "Traded", false));
+        return workTableLayout("Future / Stock Detail", "FutStkSumDet", columns, "TradeDt");
+    }
+    columns.insert(columns.begin(), plain("Trade date", "TradeDt", 28, "DD-MM-YYYY"));
+    return workTableLayout("Future / Stock Summary", "FutStkSumDet", columns, "");
 }
 
 } // namespace tallimark

@@ -19,4 +19,10 @@ ReportLayout futStkSummaryLayout();
 // Every futures and stock trade, grouped by trade date.
 ReportLayout futStkDetailLayout();
 
+// The report data screen's reports: the sheet's summary with its margins and exposure, and the
+// work tables CallSummary1, Call1 and FutStkSumDet banded by trade date.
+ReportLayout sheetSummaryLayout();
+ReportLayout callSummaryDataLayout(const char* title, const char* table);
+ReportLayout futStkDataLayout(bool detail);
+
 } // namespace tallimark

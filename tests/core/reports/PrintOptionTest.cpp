@@ -20,9 +20,9 @@ void sheetWithTrades(Store& s) {
               "values ('NIF', 'NIFTY', 50, '0.5/0.8', '1.2')");
     s.execute("insert into PortfolioMast(Symbol, Descr, MktPrice, Days, ExpDt, Balance, Up1MktPrice, Up1Bal) "
               "values ('NIFX2026', 'NOV', 18000, 7, cdate('30-11-2026'), 1234.5, 19800, 500)");
-    s.execute("insert into PortfolioDet(Symbol, Descr, Strike, CP, Units, DeltaVal) values "
-              "('NIFX2026', 'NOV', 18000, 'C', 50, 25), ('NIFX2026', 'NOV', 18100, 'P', -25, -10), "
-              "('NIFX2026', 'NOV', 18200, 'C', 0, 99)");
+    s.execute("insert into PortfolioDet(Symbol, Descr, Strike, CP, Units, DeltaVal, Field2) values "
+              "('NIFX2026', 'NOV', 18000, 'C', 50, 25, 1), ('NIFX2026', 'NOV', 18100, 'P', -25, -10, 1), "
+              "('NIFX2026', 'NOV', 18200, 'C', 0, 99, 0)");
     s.execute("insert into Closing(Symbol, Descr, Dt, ClBal, OpBal) values ('NIFX2026', 'NOV', '23-11-2026', "
               "900, 1000)");
     const char* trades = "('NIFX2026', 'NOV', cdate('20-11-2026'), 'C', 18000, 50, 100, ''), "
@@ -162,6 +162,33 @@ TEST(PrintOption, EachChoiceRunsItsReportWithItsRowsTotalsAndValues) {
                    "Limit (crores)|not set for this script", "Last gamma|not set for this script"});
     desk.app.session().g_strDesc = "DEC";
     EXPECT_EQ(print(desk, 2, 0, true, from, to).back().rfind("Error in PrintRecords1 procedure: ", 0), 0u);
+}
+
+TEST(ReportData, TheButtonsFillTheWorkTablesAndShowTheirReports) {
+    test::Desk desk;
+    sheetWithTrades(desk.app.store());
+    desk.app.session().g_strSymbol = "NIFX2026";
+    desk.app.session().g_strDesc = "NOV";
+    auto& form = desk.app.screens().get("FrmReport");
+    form.show();
+    auto report = [&](const char* button) {
+        form.fire(button, EventType::Click);
+        return printed(desk.ui.reports().back());
+    };
+    // Exposure: 75 option units plus 30 futures at 18000 in crores; margin 8% of 25 × 18100.
+    expectInOrder(report("Command1"),
+                  {"Risk Management Sheet ....", "18,000.00|C|50|||||25.00||||||", "Future/Stock:|30",
+                   "Today's Expenses:|-100.00", "Total Exposure (in Corers):|75.05",
+                   "Option Margin:|36,200.00", "Future Margin:|67,250.00", "Limit (crores)|50.00",
+                   "First gamma|0.5/0.8"});
+    form.setText("DTPicker1", "20-Nov-2026");
+    form.setText("DTPicker2", "21-Nov-2026");
+    expectInOrder(report("Command2"),
+                  {"From 20-11-2026 to 21-11-2026", "20-11-2026", "18,000.00|C|100.00|50||-5,000.00",
+                   "18,100.00|P|80.00||-25|2,000.00", "Total|||60|-25|-4,200.00"});
+    expectInOrder(report("Command4"), {"20-11-2026|50|", "21-11-2026|-20|", "Total|30|0"});
+    form.setText("DTPicker2", "19-Nov-2026");
+    expectInOrder(report("Command5"), {"Future / Stock Detail", "No trades in this date range."});
 }
 
 TEST(PrintOption, LoadsWithSummaryCallPutAsOnDateAndTheDepthSetsTheTick) {
