@@ -24,7 +24,9 @@
 #include "pricing/CalcView.h"
 #include "pricing/FrmCalc.h"
 #include "reports/FrmPrintOption.h"
+#include "reports/FrmReport.h"
 #include "reports/PrintOptionView.h"
+#include "reports/ReportDataView.h"
 #include "sheet/FrmSettingStrike.h"
 #include "sheet/RiskSheet.h"
 #include "sheet/SheetView.h"
@@ -76,6 +78,7 @@ const std::map<std::string, Maker, std::less<>> kViews = {
     {RiskSheet::kIndexName, make<SheetView>},
     {FrmSettingStrike::kName, make<StrikeSettingView>},
     {FrmPrintOption::kName, make<PrintOptionView>},
+    {FrmReport::kName, make<ReportDataView>},
 };
 
 } // namespace
