@@ -55,6 +55,18 @@ std::vector<StatementLine> balancesAndScenarios() {
     };
 }
 
+// The script's gamma limits from four sources (second may be null), each saying when it is not set.
+std::vector<StatementLine> gammaLimits(const char* limit, const char* first, const char* second,
+                                       const char* last) {
+    const char* missing = "not set for this script";
+    std::vector<StatementLine> lines = {section("Gamma limits of the script"),
+                                        {"Limit (crores)", limit, figure::kMoney, false, missing},
+                                        {"First gamma", first, figure::kText, false, missing}};
+    if (second) lines.push_back({"Second gamma", second, figure::kText, false, missing});
+    lines.push_back({"Last gamma", last, figure::kText, false, missing});
+    return lines;
+}
+
 ReportLayout workTableLayout(const char* title, const char* table, std::vector<ReportColumn> columns,
                              const char* band) {
     ReportLayout l;
@@ -102,7 +114,6 @@ ReportLayout fullSheetLayout() {
         money("Vega val", "DVegaVal"),
     };
     l.emptyText = "The sheet holds no open positions.";
-    const char* missing = "not set for this script";
     l.summary = balancesAndScenarios();
     l.summary.insert(l.summary.end(), {
                                           section("Futures, stock and expenses"),
@@ -113,12 +124,9 @@ ReportLayout fullSheetLayout() {
                                           line("Future margin", "@FMargin"),
                                           line("Today's expenses", "@Exp1"),
                                           line("Expenses", "@Exp"),
-                                          section("Gamma limits of the script"),
-                                          {"Limit (crores)", "@Limit_Cr", figure::kMoney, false, missing},
-                                          {"First gamma", "@First_Gamma", figure::kText, false, missing},
-                                          {"Second gamma", "@F_Gamma1", figure::kText, false, missing},
-                                          {"Last gamma", "@Last_Gamma", figure::kText, false, missing},
                                       });
+    const auto limits = gammaLimits("@Limit_Cr", "@First_Gamma", "@F_Gamma1", "@Last_Gamma");
+    l.summary.insert(l.summary.end(), limits.begin(), limits.end());
     return l;
 }
 
@@ -198,7 +206,6 @@ ReportLayout sheetSummaryLayout() {
         ", ScriptMast.First_Gamma as SFirst, ScriptMast.Week_Gamma as SWeek, ScriptMast.Limit_Cr as "
         "SLimit from PortfolioMast");
     l.rows += " left join ScriptMast on substr(PortfolioMast.Symbol, 1, 3) = ScriptMast.ScrCode";
-    const char* missing = "not set for this script";
     l.summary = balancesAndScenarios();
     l.summary.insert(l.summary.end(), {
                                           section("Futures, stock and expenses"),
@@ -211,11 +218,9 @@ ReportLayout sheetSummaryLayout() {
                                           line("Total Exposure (in Corers):", "@LblTot_Exposure"),
                                           line("Option Margin:", "@LblOption_Margin"),
                                           line("Future Margin:", "@LblFuture_Margin"),
-                                          section("Gamma limits of the script"),
-                                          {"Limit (crores)", "SLimit", figure::kMoney, false, missing},
-                                          {"First gamma", "SFirst", figure::kText, false, missing},
-                                          {"Last gamma", "SWeek", figure::kText, false, missing},
                                       });
+    const auto limits = gammaLimits("SLimit", "SFirst", nullptr, "SWeek");
+    l.summary.insert(l.summary.end(), limits.begin(), limits.end());
     return l;
 }
 
