@@ -17,6 +17,8 @@
 #include "frame/Form.h"
 #include "frame/MDIForm1.h"
 #include "pricing/FrmCalc.h"
+#include "reports/FrmPrintOption.h"
+#include "reports/FrmReport.h"
 #include "scenario/FrmListGraph.h"
 #include "scenario/FrmNewGraph.h"
 #include "scenario/FrmNewGraphGreek.h"
@@ -79,7 +81,8 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
         entry<FrmListGraph>(),
         entry<FrmNewGraph>(),
         entry<FrmNewGraphGreek>(),
-        empty("FrmPrintOption", "Different Print Options....Tallimark"),
+        entry<FrmPrintOption>(),
+        entry<FrmReport>(),
         entry<FrmScriptMast>(),
         entry<Frmnth>(),
         entry<FrmCharges>(),

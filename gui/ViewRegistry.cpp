@@ -24,6 +24,10 @@
 #include "frame/ScreenMenu.h"
 #include "pricing/CalcView.h"
 #include "pricing/FrmCalc.h"
+#include "reports/FrmPrintOption.h"
+#include "reports/FrmReport.h"
+#include "reports/PrintOptionView.h"
+#include "reports/ReportDataView.h"
 #include "scenario/FrmListGraph.h"
 #include "scenario/FrmNewGraph.h"
 #include "scenario/FrmNewGraphGreek.h"
@@ -93,6 +97,8 @@ const std::map<std::string, Maker, std::less<>> kViews = {
     {FrmNewGraph::kName, make<ScenarioView>},
     {FrmNewGraphGreek::kName, make<ScenarioView>},
     {FrmTwoContract::kName, make<ScenarioView>},
+    {FrmPrintOption::kName, make<PrintOptionView>},
+    {FrmReport::kName, make<ReportDataView>},
 };
 
 } // namespace

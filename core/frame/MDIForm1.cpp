@@ -26,6 +26,7 @@ const MenuEntry kMenus[] = {
     {"mnuutility", "&Utility", "", ""},
     {"mnupass", "&New User", "mnuutility", "FrmUser"},
     {"mnucalc", "&Calculator", "mnuutility", "FrmCalc"},
+    {"mnureport", "&Report Data", "mnuutility", "FrmReport"},
 };
 
 const char* const kUnloadOrder[] = {

@@ -75,11 +75,15 @@ public:
         for (size_t r = 0; r < data_.rows.size(); ++r) {
             band(r);
             if (!layout_.columns.empty()) row(r);
-            statement(r);
+            statement(layout_.statement, r);
         }
         if (!data_.rows.empty()) closeBand();
-        if (hasTotals()) put(totalLine(LineStyle::Total, layout_.totalCaption, grand_));
-        if (data_.rows.empty()) put(make(LineStyle::Text, {{"No rows were selected.", 0, doc_.pageWidth()}}));
+        if (hasTotals() && !data_.rows.empty())
+            put(totalLine(LineStyle::Total, layout_.totalCaption, grand_));
+        if (data_.rows.empty()) put(make(LineStyle::Text, {{layout_.emptyText, 0, doc_.pageWidth()}}));
+        tableDone_ = true; // pages of the closing statement carry no column heads
+        if (!layout_.summary.empty()) y_ += kGap;
+        statement(layout_.summary, 0);
         const size_t n = doc_.pages.size();
         for (size_t i = 0; i < n; ++i)
             doc_.pages[i].footer = "Page " + std::to_string(i + 1) + " of " + std::to_string(n);
@@ -173,18 +177,20 @@ private:
         }
         put(cellsLine(LineStyle::Row, texts));
     }
-    void statement(size_t r) {
-        if (layout_.statement.empty()) return;
+    void statement(const std::vector<StatementLine>& lines, size_t r) {
+        if (lines.empty()) return;
         if (r > 0) y_ += kGap;
         const double labelW = doc_.pageWidth() * 0.55, valueW = doc_.pageWidth() * 0.25;
-        for (const auto& s : layout_.statement) {
+        for (const auto& s : lines) {
             if (s.source.empty()) {
                 put(make(LineStyle::Heading, {{fill(s.label, r), 0, doc_.pageWidth()}}));
                 continue;
             }
-            put(make(s.total ? LineStyle::Total : LineStyle::Text,
-                     {{fill(s.label, r), 0, labelW},
-                      {figureText(source(s.source, r), s.format), labelW, valueW, Align::Right}}));
+            const std::string figure = source(s.source, r);
+            put(make(
+                s.total ? LineStyle::Total : LineStyle::Text,
+                {{fill(s.label, r), 0, labelW},
+                 {figure.empty() ? s.missing : figureText(figure, s.format), labelW, valueW, Align::Right}}));
         }
     }
 
@@ -211,7 +217,7 @@ private:
         for (const auto& h : layout_.headings)
             head(make(LineStyle::Heading, {{fill(h, 0), 0, doc_.pageWidth(), Align::Center}}));
         y_ += kGap;
-        if (!layout_.columns.empty()) {
+        if (!layout_.columns.empty() && !tableDone_) {
             std::vector<std::string> caps;
             for (const auto& c : layout_.columns)
                 caps.push_back(c.caption);
@@ -226,6 +232,7 @@ private:
     double y_ = 0;
     std::vector<double> grand_, bandSums_;
     std::string bandKey_;
+    bool tableDone_ = false;
 };
 
 } // namespace

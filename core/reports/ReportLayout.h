@@ -39,6 +39,7 @@ struct StatementLine {
     std::string source;
     std::string format = figure::kMoney;
     bool total = false;
+    std::string missing = {}; // written in place of an empty figure ("not set")
 };
 
 struct ReportLayout {
@@ -53,6 +54,9 @@ struct ReportLayout {
     std::string bandBy;                // a source: a band heading and subtotals where it changes
     std::string totalCaption = "Total";
     std::vector<StatementLine> statement; // repeated for every row
+    // Once, after the table and its totals: figures of the first row and the formula values.
+    std::vector<StatementLine> summary;
+    std::string emptyText = "No rows were selected."; // what a run without rows says
 };
 
 // What a run hands to its layout: the selected rows and the named formula values.

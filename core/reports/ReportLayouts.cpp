@@ -1,6 +1,7 @@
 // Every printed report's layout by report name. A new report adds its line here.
 #include "charges/ChargesReports.h"
 #include "reports/ReportRun.h"
+#include "reports/SheetReports.h"
 
 #include <algorithm>
 #include <cctype>
@@ -23,6 +24,17 @@ const std::map<std::string, ReportLayout, NoCase>& layouts() {
     static const std::map<std::string, ReportLayout, NoCase> all = {
         {"Expenses", expensesLayout()},
         {"CashFlow", cashFlowLayout()},
+        {"rptport", fullSheetLayout()},
+        {"CallSummary1", callPutSummaryLayout()},
+        {"CallSummary2", callPutPositionLayout()},
+        {"Call1", callPutDetailLayout()},
+        {"FutStkSum", futStkSummaryLayout()},
+        {"FutStkDet", futStkDetailLayout()},
+        {"DataRptMain", sheetSummaryLayout()},
+        {"DataRptCallSummary1", callSummaryDataLayout("Call / Put Summary", "CallSummary1")},
+        {"DataRptCall1", callSummaryDataLayout("Call / Put Detail", "Call1")},
+        {"DataRptFutStkSum", futStkDataLayout(false)},
+        {"DataRptFutStkDet", futStkDataLayout(true)},
     };
     return all;
 }

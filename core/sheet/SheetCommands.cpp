@@ -4,6 +4,7 @@
 #include "frame/ComProc.h"
 #include "frame/VbFormat.h"
 #include "frame/VbNumber.h"
+#include "reports/SheetExport.h"
 #include "sheet/RiskSheet.h"
 #include "sheet/SheetCommandScreen.h"
 #include "tracker/FrmOption.h"
@@ -57,6 +58,14 @@ void RiskSheet::addCommands() {
         }
     }
     on("Toolbar1", EventType::Click, [this](Event& e) { Toolbar1_ButtonClick(Trim(text(button(e.index)))); });
+    // A desk's numbers go on to its spreadsheet: both sheets export from the menu, the index sheet
+    // from its "Excel" button too.
+    addControl(ControlKind::Menu, "mnuExport", "E&xport to Excel");
+    const auto exportCsv = [this](Event&) {
+        exportSheet(*this, app().session().g_strSymbol + " " + app().session().g_strDesc + ".csv");
+    };
+    on("mnuExport", EventType::Click, exportCsv);
+    if (isIndex()) on("cmdExl", EventType::Click, exportCsv);
     // The screen reads every key before its controls do.
     on("Form", EventType::KeyDown, [this](Event& e) { keyPreview(e); });
     for (const std::string& name : controlOrder())

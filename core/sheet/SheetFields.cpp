@@ -135,7 +135,7 @@ void RiskSheet::addFields() {
         if (!isIndex() && std::string(f.name) == "TxtCurDt") addControl(ControlKind::DatePicker, "DTPicker1");
     }
     addControl(ControlKind::Frame, "FraPosition", isIndex() ? "Future/stock/Cash" : "Future/Stock");
-    if (isIndex()) addControl(ControlKind::Button, "cmdExl", "Excel"); // left inert: it has no handler
+    if (isIndex()) addControl(ControlKind::Button, "cmdExl", "Excel");
 }
 
 void RiskSheet::addLadder() {
