@@ -13,6 +13,8 @@
 #include "frame/EmptyScreen.h"
 #include "frame/Form.h"
 #include "frame/MDIForm1.h"
+#include "margin/FrmCreatePon.h"
+#include "margin/FrmSpan_Load.h"
 #include "pricing/FrmCalc.h"
 #include "sheet/FrmSettingStrike.h"
 #include "sheet/RiskSheet.h"
@@ -52,8 +54,8 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
         entry<FrmUnderlying_New>(),
         entry<FrmNewMainScreen>(),
         entry<FrmNewScript>(),
-        empty("FrmSpan_Load", "Load Span File"),
-        empty("FrmCreatePon", "Create Position File"),
+        entry<FrmSpan_Load>(),
+        entry<FrmCreatePon>(),
         empty("FrmTwoContract", "Two Contract Strategy Program"),
         empty("FrmNewCharges", "Charges For the Day"),
         empty("FrmChargesExl", "Charges Sheet....Tallimark"),

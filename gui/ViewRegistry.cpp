@@ -21,6 +21,9 @@
 #include "frame/FormBinder.h"
 #include "frame/MDIForm1.h"
 #include "frame/MainWindow.h"
+#include "margin/FrmCreatePon.h"
+#include "margin/FrmSpan_Load.h"
+#include "margin/MarginViews.h"
 #include "pricing/CalcView.h"
 #include "pricing/FrmCalc.h"
 #include "sheet/FrmSettingStrike.h"
@@ -73,6 +76,8 @@ const std::map<std::string, Maker, std::less<>> kViews = {
     {RiskSheet::kStockName, make<SheetView>},
     {RiskSheet::kIndexName, make<SheetView>},
     {FrmSettingStrike::kName, make<StrikeSettingView>},
+    {FrmCreatePon::kName, make<CreatePonView>},
+    {FrmSpan_Load::kName, make<SpanLoadView>},
 };
 
 } // namespace
