@@ -1,9 +1,8 @@
-// The margin file screens as the desk uses them: a name typed into the file dialog, the date
-// typed, the file written with the real button, and an answer loaded into the sheet's margin.
+// The position file screen as the desk uses it: a name typed into the file dialog, the date
+// typed, the file written with the real button; the span request's button is not shown.
 #include "GuiDesk.h"
 
 #include "margin/FrmCreatePon.h"
-#include "margin/FrmSpan_Load.h"
 
 #include <QFileDialog>
 #include <QLabel>
@@ -11,33 +10,20 @@
 #include <QPushButton>
 #include <QtTest>
 
-#include <fstream>
-
 using namespace tallimark;
 
 class MarginViewTest : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<test::GuiDesk> desk;
-
-    template <class W = QPushButton> static W* child(QWidget* view, const char* name) {
-        return view->findChild<W*>(QString::fromLatin1(name));
-    }
-    QWidget* show(Form& form) {
-        form.show();
-        return desk->ui.viewOf(form);
-    }
-
 private slots:
-    void init() { desk = std::make_unique<test::GuiDesk>(); }
-    void cleanup() { desk.reset(); }
-
     void aPositionFileNamedInTheDialogIsWritten() {
-        desk->app.session().gPonSymbols.assign(2, ""); // nothing ticked: the header alone
-        desk->app.session().gPonDescs.assign(2, "");
-        QWidget* view = show(desk->app.screens().get<FrmCreatePon>());
-        QVERIFY(view);
-        QVERIFY(child(view, "Command1")->isHidden());
+        test::GuiDesk desk;
+        desk.app.session().gPonSymbols.assign(2, ""); // nothing ticked: the header alone
+        desk.app.session().gPonDescs.assign(2, "");
+        Form& form = desk.app.screens().get<FrmCreatePon>();
+        form.show();
+        QWidget* view = desk.ui.viewOf(form);
+        QVERIFY(view->findChild<QPushButton*>("Command1")->isHidden());
         // A name typed without its extension gets ".pon"; the dialog does not ask about overwriting.
         QTimer::singleShot(300, [] {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -48,29 +34,18 @@ private slots:
             QTest::keyClicks(name, "eod");
             QTest::keyClick(name, Qt::Key_Return);
         });
-        QTest::mouseClick(child(view, "CmdSelect"), Qt::LeftButton);
-        const QString path = desk->dir.filePath("eod.pon");
-        QCOMPARE(child<QLabel>(view, "LblFolder_Name")->text(), path);
+        QTest::mouseClick(view->findChild<QPushButton*>("CmdSelect"), Qt::LeftButton);
+        const QString path = desk.dir.filePath("eod.pon");
+        QCOMPARE(view->findChild<QLabel*>("LblFolder_Name")->text(), path);
 
-        auto* date = child<QLineEdit>(view, "DTPDate");
+        auto* date = view->findChild<QLineEdit*>("DTPDate");
         date->selectAll();
         QTest::keyClicks(date, "20-Nov-2026");
-        QTest::mouseClick(child(view, "CmdPon_File"), Qt::LeftButton);
-        QCOMPARE(desk->boxes.back().text, "Pon file created successfully");
+        QTest::mouseClick(view->findChild<QPushButton*>("CmdPon_File"), Qt::LeftButton);
+        QCOMPARE(desk.boxes.back().text, "Pon file created successfully");
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(file.readAll().contains("<created>20261120</created>\r\n"));
-    }
-
-    void anAnswerLoadedStoresTheMargin() {
-        desk->app.store().execute("insert into PortfolioMast (Symbol, Descr) values ('RILK2026', 'NOV')");
-        std::ofstream(desk->dir.filePath("20261123.spn").toStdString())
-            << "<portfolio>\n<firm>RILK2026-NOV</firm>\n<oReq>\n<isM>1</isM>\n<spanReq>900</spanReq>\n"
-               "<anov>100</anov>\n</oReq>\n</portfolio>\n";
-        QWidget* view = show(desk->app.screens().get<FrmSpan_Load>());
-        QTest::mouseClick(child(view, "CmdSpn_File"), Qt::LeftButton);
-        QCOMPARE(desk->boxes.back().text, "Spn file loaded successfully");
-        QCOMPARE(desk->app.store().query("select Field2 from PortfolioMast")["Field2"].number(), 800.0);
     }
 };
 

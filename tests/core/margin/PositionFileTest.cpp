@@ -6,22 +6,20 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
+#include <iterator>
 
 namespace tallimark {
 namespace {
 
-std::string crlf(std::string lines) { // "|" parts the lines of a hand-written expectation
-    std::string s;
-    for (char c : lines)
-        s += c == '|' ? std::string("\r\n") : std::string(1, c);
+std::string crlf(std::string s) { // "|" parts the lines of a hand-written expectation
+    for (size_t k; (k = s.find('|')) != std::string::npos;)
+        s.replace(k, 1, "\r\n");
     return s;
 }
 
 std::string readFile(const std::filesystem::path& p) {
-    std::ostringstream s;
-    s << std::ifstream(p, std::ios::binary).rdbuf();
-    return s.str();
+    std::ifstream in(p, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 struct PonDesk : test::AdminDesk {
@@ -155,17 +153,19 @@ TEST(PositionFile, ChoosingTheFileKeepsToPonFiles) {
 TEST(SpanRequest, DayBeforeMonthAndTheCalculatorsTables) {
     const std::string doc = SpanRequestDocument(VbDate::fromYmd(2003, 3, 5));
     EXPECT_NE(doc.find("<date>20030503</date>\r\n<isSet1>1</isSet1>\r\n<set1Qualifier>"), std::string::npos);
-    auto count = [&doc](const std::string& part) {
-        size_t n = 0;
+    const std::pair<std::string, size_t> blocks[] = {
+        {"<point>4</point>\r\n<priceScanDef>\r\n<mult>0.333333", 8},
+        {"<currencyDef>", 22},
+        {"<acctTypeDef>", 7},
+        {"<pbRateDef>", 11},
+        {"<scanPointDef>", 23},
+        {"<deltaPointDef>", 7}};
+    for (const auto& [part, n] : blocks) {
+        size_t found = 0;
         for (size_t k = doc.find(part); k != std::string::npos; k = doc.find(part, k + 1))
-            ++n;
-        return n;
-    };
-    EXPECT_EQ(count("<point>4</point>\r\n<priceScanDef>\r\n<mult>0.333333"), 8u);
-    EXPECT_EQ(count("<currencyDef>"), 22u);
-    EXPECT_EQ(count("<pbRateDef>"), 11u);
-    EXPECT_EQ(count("<scanPointDef>"), 23u);
-    EXPECT_EQ(count("<deltaPointDef>"), 7u);
+            ++found;
+        EXPECT_EQ(found, n) << part;
+    }
 }
 
 } // namespace
