@@ -16,6 +16,8 @@
 #include "frame/EmptyScreen.h"
 #include "frame/Form.h"
 #include "frame/MDIForm1.h"
+#include "margin/FrmCreatePon.h"
+#include "margin/FrmSpan_Load.h"
 #include "pricing/FrmCalc.h"
 #include "reports/FrmPrintOption.h"
 #include "reports/FrmReport.h"
@@ -66,8 +68,8 @@ const std::vector<std::pair<const char*, Maker>>& registry() {
         entry<FrmNewScript>(),
         entry<FrmClosing>(),
         entry<FrmCashFlow>(),
-        empty("FrmSpan_Load", "Load Span File"),
-        empty("FrmCreatePon", "Create Position File"),
+        entry<FrmSpan_Load>(),
+        entry<FrmCreatePon>(),
         entry<FrmTwoContract>(),
         {ChargesSheet::kDayName,
          [](App& app) { return std::make_unique<ChargesSheet>(app, ChargesEdition::Day); }},

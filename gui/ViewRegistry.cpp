@@ -22,6 +22,9 @@
 #include "frame/MDIForm1.h"
 #include "frame/MainWindow.h"
 #include "frame/ScreenMenu.h"
+#include "margin/FrmCreatePon.h"
+#include "margin/FrmSpan_Load.h"
+#include "margin/MarginViews.h"
 #include "pricing/CalcView.h"
 #include "pricing/FrmCalc.h"
 #include "reports/FrmPrintOption.h"
@@ -99,6 +102,8 @@ const std::map<std::string, Maker, std::less<>> kViews = {
     {FrmTwoContract::kName, make<ScenarioView>},
     {FrmPrintOption::kName, make<PrintOptionView>},
     {FrmReport::kName, make<ReportDataView>},
+    {FrmCreatePon::kName, make<CreatePonView>},
+    {FrmSpan_Load::kName, make<SpanLoadView>},
 };
 
 } // namespace

@@ -31,6 +31,8 @@ struct FileDialog {
     std::string filter; // "Trade files (*.txt)|*.txt"
     std::string initialDir;
     std::string fileName;
+    std::string defaultExt;       // added to a typed name that has no extension ("pon")
+    bool confirmOverwrite = true; // a save dialog asks before it hands back a file that exists
 };
 
 const char* buttonsName(MsgButtons b);

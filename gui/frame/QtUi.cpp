@@ -281,12 +281,13 @@ bool QtUi::eventFilter(QObject* watched, QEvent* event) {
 std::optional<std::string> QtUi::fileDialog(const FileDialog& dialog) {
     QString start = qs(dialog.initialDir);
     if (!dialog.fileName.empty()) start = QDir(start).filePath(qs(dialog.fileName));
-    const QString filter = qtFileFilter(dialog.filter);
-    const QString path = dialog.save
-                             ? QFileDialog::getSaveFileName(activeWindow(), qs(dialog.title), start, filter)
-                             : QFileDialog::getOpenFileName(activeWindow(), qs(dialog.title), start, filter);
-    if (path.isEmpty()) return std::nullopt;
-    return QDir::toNativeSeparators(path).toStdString();
+    QFileDialog box(activeWindow(), qs(dialog.title), start, qtFileFilter(dialog.filter));
+    box.setAcceptMode(dialog.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    box.setFileMode(dialog.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    box.setDefaultSuffix(qs(dialog.defaultExt));
+    box.setOption(QFileDialog::DontConfirmOverwrite, !dialog.confirmOverwrite);
+    if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) return std::nullopt;
+    return QDir::toNativeSeparators(box.selectedFiles().constFirst()).toStdString();
 }
 
 void QtUi::endProgram() {
