@@ -1,5 +1,6 @@
 #include "margin/MarginViews.h"
 
+#include "frame/ButtonRow.h"
 #include "frame/Named.h"
 
 #include <QFrame>
@@ -25,14 +26,6 @@ void addFileRow(QGridLayout& grid) {
     grid.addWidget(named<QLabel>("Label1"), 0, 0);
     grid.addWidget(path, 0, 1);
     grid.addWidget(named<QPushButton>("CmdSelect"), 0, 2);
-}
-
-QHBoxLayout* buttonRow(std::initializer_list<const char*> names) {
-    auto* row = new QHBoxLayout;
-    row->addStretch();
-    for (const char* name : names)
-        row->addWidget(named<QPushButton>(name));
-    return row;
 }
 
 } // namespace

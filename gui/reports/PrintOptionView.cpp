@@ -1,5 +1,6 @@
 #include "reports/PrintOptionView.h"
 
+#include "frame/ButtonRow.h"
 #include "frame/Named.h"
 
 #include <QCheckBox>
@@ -40,10 +41,7 @@ PrintOptionView::PrintOptionView() {
     dates->addWidget(named<QLineEdit>("DTPicker1"), 0, 1);
     dates->addWidget(named<QLabel>("Label2"), 1, 0);
     dates->addWidget(named<QLineEdit>("DTPicker2"), 1, 1);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(named<QPushButton>("Cmd(0)"));
-    buttons->addWidget(named<QPushButton>("Cmd(1)"));
+    QHBoxLayout* buttons = buttonRow({"Cmd(0)", "Cmd(1)"});
     auto* layout = new QVBoxLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addLayout(choices);

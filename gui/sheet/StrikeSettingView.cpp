@@ -1,5 +1,6 @@
 #include "sheet/StrikeSettingView.h"
 
+#include "frame/ButtonRow.h"
 #include "frame/Named.h"
 
 #include <QFormLayout>
@@ -15,10 +16,7 @@ StrikeSettingView::StrikeSettingView() {
     auto* counts = new QFormLayout;
     counts->addRow(named<QLabel>("Label1"), named<QLineEdit>("TxtAbove"));
     counts->addRow(named<QLabel>("Label2"), named<QLineEdit>("TxtBelowe"));
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(named<QPushButton>("Command1"));
-    buttons->addWidget(named<QPushButton>("Command2"));
+    QHBoxLayout* buttons = buttonRow({"Command1", "Command2"});
     auto* layout = new QVBoxLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addLayout(counts);

@@ -1,5 +1,6 @@
 #include "tracker/TrailView.h"
 
+#include "frame/ButtonRow.h"
 #include "frame/Named.h"
 
 #include <QHBoxLayout>
@@ -9,18 +10,6 @@
 #include <QVBoxLayout>
 
 namespace tallimark {
-
-namespace {
-
-QHBoxLayout* buttonRow(std::initializer_list<const char*> names) {
-    auto* row = new QHBoxLayout;
-    row->addStretch();
-    for (const char* name : names)
-        row->addWidget(named<QPushButton>(name));
-    return row;
-}
-
-} // namespace
 
 TradeTrackerView::TradeTrackerView() {
     auto* layout = new QVBoxLayout(this);

@@ -1,5 +1,6 @@
 #include "upload/UploadView.h"
 
+#include "frame/ButtonRow.h"
 #include "frame/Named.h"
 
 #include <QFormLayout>
@@ -31,10 +32,7 @@ UploadView::UploadView() {
     layouts->addWidget(named<QRadioButton>("Option1(1)"));
     fields->addRow("Layout", layouts);
     fields->addRow("", named<QLabel>("LblLines"));
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (const char* name : {"CmdUpload", "CmdDelete", "Command2"})
-        buttons->addWidget(named<QPushButton>(name));
+    QHBoxLayout* buttons = buttonRow({"CmdUpload", "CmdDelete", "Command2"});
     auto* layout = new QVBoxLayout(this);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addLayout(fields);
