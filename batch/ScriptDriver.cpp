@@ -103,6 +103,14 @@ Form& ScriptDriver::formOf(const std::string& target) {
     }
 }
 
+Grid* ScriptDriver::gridOf(Form& form, const std::string& target) {
+    try {
+        return &form.grid(controlOf(target));
+    } catch (const VbError& e) {
+        throw ScriptError(lineNo_, e.text());
+    }
+}
+
 std::string ScriptDriver::controlOf(const std::string& target) {
     const size_t dot = target.find('.');
     if (dot == std::string::npos) throw ScriptError(lineNo_, "expected FORM.CONTROL, got " + target);
@@ -187,12 +195,7 @@ void ScriptDriver::perform(const std::string& line) {
         form.flush();
     } else if (verb == "cell" || verb == "gridclick") {
         Form& form = formOf(target);
-        Grid* grid = nullptr;
-        try {
-            grid = &form.grid(controlOf(target));
-        } catch (const VbError& e) {
-            throw ScriptError(lineNo_, e.text());
-        }
+        Grid* grid = gridOf(form, target);
         const int row = toInt(arg("row"), lineNo_);
         const int col = toInt(arg("column"), lineNo_);
         if (row < 1 || col < 1 || col > grid->maxCols())
@@ -211,12 +214,7 @@ void ScriptDriver::perform(const std::string& line) {
         }
     } else if (verb == "tick") {
         Form& form = formOf(target);
-        Grid* grid = nullptr;
-        try {
-            grid = &form.grid(controlOf(target));
-        } catch (const VbError& e) {
-            throw ScriptError(lineNo_, e.text());
-        }
+        Grid* grid = gridOf(form, target);
         const int row = toInt(arg("row"), lineNo_);
         if (row < 1 || row > grid->maxRows()) throw ScriptError(lineNo_, "no row " + std::to_string(row));
         grid->setChecked(row, arg("0 or 1") != "0");

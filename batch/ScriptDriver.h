@@ -12,6 +12,7 @@ namespace tallimark {
 
 class App;
 class Form;
+class Grid;
 struct ReportDocument;
 
 // A line the driver cannot carry out: the script stops there.
@@ -36,6 +37,7 @@ private:
     void printed(const ReportDocument& doc); // a report run: its JSON line, and its PDF if asked
     Form& formOf(const std::string& target);
     std::string controlOf(const std::string& target);
+    Grid* gridOf(Form& form, const std::string& target); // FORM.GRID
 
     App& app_;
     ScriptedUi& ui_;
