@@ -139,7 +139,7 @@ void ChargesSheet::addEvents() {
             });
     on("TxtOtherChgs", EventType::Change, [this](Event&) { balanceStep(); });
     on("DTPicker1", EventType::Change, [this](Event&) {
-        // A picker holds only dates: a date half typed in the window loads nothing yet.
+        // A picker holds only dates: a script's text that is none loads nothing.
         if (!IsDate(text("DTPicker1"))) return;
         if (rules_.clearsFieldsOnLoad || SheetKind != "Index")
             DoInit();

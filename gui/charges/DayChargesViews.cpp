@@ -3,6 +3,7 @@
 #include "frame/Form.h"
 #include "frame/Named.h"
 
+#include <QDateEdit>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -20,6 +21,14 @@ namespace tallimark {
 
 namespace {
 
+// A label with the model's caption from the start: the window is sized before the binder
+// shows the texts, and an empty label would leave the captions cut.
+QLabel* caption(Form& form, const std::string& name) {
+    auto* label = named<QLabel>(name.c_str());
+    label->setText(QString::fromStdString(form.control(name).text));
+    return label;
+}
+
 // A framed column of "label, field" rows for the fields the model has; a field without a label
 // of its own stands beside the one before it.
 QGroupBox* block(Form& form, const char* title, std::initializer_list<const char*> fields) {
@@ -32,7 +41,7 @@ QGroupBox* block(Form& form, const char* title, std::initializer_list<const char
         if (form.hasControl(label) || row < 0) {
             ++row;
             col = 1;
-            if (form.hasControl(label)) grid->addWidget(named<QLabel>(label.c_str()), row, 0);
+            if (form.hasControl(label)) grid->addWidget(caption(form, label), row, 0);
         }
         auto* edit = named<QLineEdit>(f);
         edit->setAlignment(Qt::AlignRight);
@@ -61,7 +70,10 @@ QHBoxLayout* buttons(std::initializer_list<const char*> names) {
 QHBoxLayout* dateRow(const char* label) {
     auto* row = new QHBoxLayout;
     row->addWidget(new QLabel(QString::fromLatin1(label)));
-    row->addWidget(named<QLineEdit>("DTPicker1"));
+    auto* date = named<QDateEdit>("DTPicker1");
+    date->setDisplayFormat(QStringLiteral("dd-MM-yyyy"));
+    date->setCalendarPopup(true);
+    row->addWidget(date);
     row->addStretch();
     return row;
 }
@@ -92,8 +104,8 @@ ChargesSheetView::ChargesSheetView(Form& form) {
 ClosingView::ClosingView(Form& form) {
     auto* page = new QVBoxLayout(this);
     auto* sheet = new QHBoxLayout;
-    sheet->addWidget(named<QLabel>("LblSymbol"));
-    sheet->addWidget(named<QLabel>("LblDesc"));
+    sheet->addWidget(caption(form, "LblSymbol"));
+    sheet->addWidget(caption(form, "LblDesc"));
     sheet->addStretch();
     page->addLayout(sheet);
     page->addLayout(dateRow("Date"));

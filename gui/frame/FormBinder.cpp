@@ -2,11 +2,13 @@
 
 #include "frame/DeskKeys.h"
 #include "frame/Dispatch.h"
+#include "frame/VbDate.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateEdit>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -113,7 +115,16 @@ void FormBinder::bindControl(const std::string& name, QObject& object) {
         return;
     }
     object.installEventFilter(this);
-    if (auto* edit = qobject_cast<QLineEdit*>(&object)) {
+    if (auto* picker = qobject_cast<QDateEdit*>(&object)) {
+        // A picker hands over whole dates only: the date being typed reaches the model on Enter,
+        // on leaving, or on a step, never as the day and month alone.
+        picker->setKeyboardTracking(false);
+        connect(picker, &QDateEdit::dateChanged, this, [this, name](QDate date) {
+            act([&] {
+                form_.setText(name, DateText(VbDate::fromYmd(date.year(), date.month(), date.day())));
+            });
+        });
+    } else if (auto* edit = qobject_cast<QLineEdit*>(&object)) {
         connect(edit, &QLineEdit::textEdited, this, [this, name](const QString& text) {
             act([&] {
                 mirrorSelection(name);
@@ -232,7 +243,10 @@ void FormBinder::showControl(const std::string& name) {
     widget->setEnabled(control.enabled);
     if (widget->isHidden() == control.visible) widget->setVisible(control.visible);
     showFore(name, *widget, control.foreColor);
-    if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
+    if (auto* picker = qobject_cast<QDateEdit*>(widget)) {
+        if (const auto day = parseDate(control.text))
+            picker->setDate(QDate(day->year(), day->month(), day->day()));
+    } else if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
         showText(name, *edit, control);
     } else if (auto* label = qobject_cast<QLabel*>(widget)) {
         label->setText(text);
@@ -387,6 +401,7 @@ bool FormBinder::keyPressed(const std::string& name, QWidget& widget, QKeyEvent&
         }
     }
     const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (auto* picker = qobject_cast<QDateEdit*>(&widget); picker && enter) picker->interpretText();
     if (auto* button = qobject_cast<QPushButton*>(&widget); button && enter) {
         button->click();
         return true;
