@@ -61,8 +61,10 @@ void showCell(QTableWidgetItem& item, const Cell& cell, Qt::ItemFlags flags, boo
     if (item.flags() != flags) item.setFlags(flags);
     setItemData(item, Qt::ForegroundRole, brush(cell.fore));
     setItemData(item, Qt::BackgroundRole, brush(cell.back));
-    if (checkable && item.checkState() != (cell.checked ? Qt::Checked : Qt::Unchecked))
-        item.setCheckState(cell.checked ? Qt::Checked : Qt::Unchecked);
+    // An item draws its box only once it holds a state: an unticked row needs one as well.
+    const Qt::CheckState state = cell.checked ? Qt::Checked : Qt::Unchecked;
+    if (checkable && (!item.data(Qt::CheckStateRole).isValid() || item.checkState() != state))
+        item.setCheckState(state);
 }
 
 void showCombo(QComboBox& combo, const Control& control) {
