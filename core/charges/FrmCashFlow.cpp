@@ -28,7 +28,7 @@ FrmCashFlow::FrmCashFlow(App& app) : Form(app, kName, "Cash Flow....Tallimark") 
                            "Mtm Int", "Dp Chgs", "Con Chgs", "TOver Chgs", "SDuty"};
     for (int c = 1; c <= 11; ++c) {
         g.column(c).heading = heads[c - 1];
-        g.column(c).width = 11;
+        g.column(c).width = c == 1 ? 13 : 11; // the date whole
     }
     addControl(ControlKind::Button, "Cmd(0)", "&Print");
     on("Cmd", EventType::Click, [this](Event& e) {
