@@ -7,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateEdit>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
@@ -38,6 +39,7 @@ public:
         addControl(ControlKind::OptionButton, "optType(0)", "Stock");
         addControl(ControlKind::OptionButton, "optType(1)", "Index");
         addControl(ControlKind::ComboBox, "cboMonth");
+        addControl(ControlKind::DatePicker, "DTPicker1", "23-11-2026");
         addGrid("va1", 4);
     }
     using Form::addControl;
@@ -65,6 +67,9 @@ QWidget* sampleView() {
     add(new QRadioButton, "optType(0)");
     add(new QRadioButton, "optType(1)");
     add(new QComboBox, "cboMonth");
+    auto* picker = new QDateEdit;
+    picker->setDisplayFormat(QStringLiteral("dd-MM-yyyy"));
+    add(picker, "DTPicker1");
     add(new QTableWidget, "va1");
     return view;
 }
@@ -186,6 +191,18 @@ private slots:
         widget<QLineEdit>("txtName")->setFocus(Qt::MouseFocusReason);
         QCOMPARE(sample->heard.size(), size_t(1));
         QCOMPARE(widget<QLineEdit>("txtName")->selectedText(), "first");
+    }
+
+    void aDatePickerHandsOverWholeDatesOnly() {
+        sample->hear("DTPicker1", EventType::Change);
+        auto* picker = widget<QDateEdit>("DTPicker1");
+        QCOMPARE(picker->date(), QDate(2026, 11, 23));
+        picker->setSelectedSection(QDateTimeEdit::DaySection);
+        QTest::keyClicks(picker, "24");
+        QVERIFY(sample->heard.empty()); // a day typed is no date yet
+        QTest::keyClick(picker, Qt::Key_Return);
+        QCOMPARE(sample->text("DTPicker1"), "24-11-2026");
+        QCOMPARE(sample->heard.size(), size_t(1));
     }
 
     // Clicks and choices.
