@@ -16,6 +16,8 @@ MainWindow::MainWindow(Form& form) : mdiArea_(new QMdiArea) {
     // A sheet is wider than a small screen: the frame scrolls to the rest of it.
     mdiArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     mdiArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // A window that closes hands over to the one used before it, not to the oldest (the list).
+    mdiArea_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
     // The menus are the model's Menu controls in their order; an entry that others stand under
     // is a menu of its own. The binder gives them their captions.
     std::vector<const Control*> menus;
