@@ -107,8 +107,8 @@ void ChargesSheet::addFields() {
         g.column(c).heading = heads[c - 1];
         g.column(c).width = 10;
     }
-    // Column 8 holds the tick of each trade: "1" counts it, "0" leaves it out.
-    g.column(8).editable = true;
+    // Column 8 holds the tick of each trade: "1" counts it, "0" leaves it out. A click turns it;
+    // it takes no typing, so it holds nothing else.
     g.column(8).width = 3;
 }
 
