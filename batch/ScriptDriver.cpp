@@ -112,6 +112,14 @@ Form& ScriptDriver::formOf(const std::string& target) {
     }
 }
 
+Grid* ScriptDriver::gridOf(Form& form, const std::string& target) {
+    try {
+        return &form.grid(controlOf(target));
+    } catch (const VbError& e) {
+        throw ScriptError(lineNo_, e.text());
+    }
+}
+
 std::string ScriptDriver::controlOf(const std::string& target) {
     const size_t dot = target.find('.');
     if (dot == std::string::npos) throw ScriptError(lineNo_, "expected FORM.CONTROL, got " + target);
@@ -219,12 +227,7 @@ void ScriptDriver::perform(const std::string& line) {
         }
     } else if (verb == "cell" || verb == "gridclick") {
         Form& form = formOf(target);
-        Grid* grid = nullptr;
-        try {
-            grid = &form.grid(controlOf(target));
-        } catch (const VbError& e) {
-            throw ScriptError(lineNo_, e.text());
-        }
+        Grid* grid = gridOf(form, target);
         const int row = toInt(arg("row"), lineNo_);
         const int col = toInt(arg("column"), lineNo_);
         if (row < 1 || col < 1 || col > grid->maxCols())
@@ -241,18 +244,6 @@ void ScriptDriver::perform(const std::string& line) {
             e.col = col;
             form.fire(controlOf(target), e);
         }
-    } else if (verb == "tick") {
-        Form& form = formOf(target);
-        Grid* grid = nullptr;
-        try {
-            grid = &form.grid(controlOf(target));
-        } catch (const VbError& e) {
-            throw ScriptError(lineNo_, e.text());
-        }
-        const int row = toInt(arg("row"), lineNo_);
-        if (row < 1 || row > grid->maxRows()) throw ScriptError(lineNo_, "no row " + std::to_string(row));
-        grid->setChecked(row, arg("0 or 1") != "0");
-        form.flush();
     } else if (verb == "answer") {
         const auto answer = answerFromName(target);
         if (!answer) throw ScriptError(lineNo_, "no answer " + target);

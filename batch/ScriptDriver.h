@@ -11,6 +11,7 @@ namespace tallimark {
 
 class App;
 class Form;
+class Grid;
 struct ReportDocument;
 
 // A line the driver cannot carry out: the script stops there, at whatever depth the line ran,
@@ -44,6 +45,7 @@ private:
     void tickRow(Form& form, const std::string& list, int row, bool ticked);
     // The screen's drawing surface as a PNG file.
     void savePicture(Form& form, const std::string& path);
+    Grid* gridOf(Form& form, const std::string& target); // FORM.GRID
 
     App& app_;
     ScriptedUi& ui_;

@@ -15,8 +15,12 @@
 #include "admin/MonthView.h"
 #include "admin/NewSheetView.h"
 #include "admin/ScriptMastView.h"
+#include "charges/ChargesSheet.h"
 #include "charges/ChargesView.h"
+#include "charges/DayChargesViews.h"
+#include "charges/FrmCashFlow.h"
 #include "charges/FrmCharges.h"
+#include "charges/FrmClosing.h"
 #include "frame/CaptionView.h"
 #include "frame/FormBinder.h"
 #include "frame/MDIForm1.h"
@@ -87,6 +91,10 @@ const std::map<std::string, Maker, std::less<>> kViews = {
     {FrmScriptMast::kName, make<ScriptMastView>},
     {Frmnth::kName, make<MonthView>},
     {FrmCharges::kName, make<ChargesView>},
+    {ChargesSheet::kDayName, make<ChargesSheetView>},
+    {ChargesSheet::kSheetName, make<ChargesSheetView>},
+    {FrmClosing::kName, make<ClosingView>},
+    {FrmCashFlow::kName, make<CashFlowView>},
     {FrmUser::kName, make<UserView>},
     {RiskSheet::kStockName, make<SheetView>},
     {RiskSheet::kIndexName, make<SheetView>},

@@ -21,7 +21,7 @@ FrmNewMainScreen::FrmNewMainScreen(App& app) : Form(app, kName, "Main Screen") {
     Grid& list = addGrid(kList, 3);
     list.checkBoxes = true;
     const char* const headings[] = {kSymbol, kDescription, kRefreshDate};
-    const double widths[] = {12, 40, 12};
+    const double widths[] = {16, 36, 12}; // the symbol beside its tick box
     for (int c = 1; c <= 3; ++c) {
         list.column(c).heading = headings[c - 1];
         list.column(c).width = widths[c - 1];

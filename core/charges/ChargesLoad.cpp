@@ -62,7 +62,9 @@ void ChargesSheet::readRates(const Recordset& day) {
     Mode = 1;
     TOver = day["TOverChgs"].number();
     ConCh = day["ConChgs"].number();
-    Other = day["OtherChgsAmt"].number();
+    // The row the closing entry makes holds no amount of other charges yet: it reads as none,
+    // so the load the entry hands on to fills the screen instead of ending in a box.
+    Other = day["OtherChgsAmt"].numberOrZero();
     DpCh = day["DpChgs"].number();
     StkInt = day["StkInt"].number();
     ClMtmRate = day["ClMtm"].number();

@@ -103,10 +103,12 @@ void ChargesSheet::addFields() {
     addControl(ControlKind::Button, "Cmd(1)", "&Print");
     Grid& g = addGrid(kGrid, 9);
     const char* heads[] = {"Strike", "C/P", "Units", "Traded", "Premium", "TOver Chgs", "Prem Int", "", ""};
-    for (int c = 1; c <= 9; ++c)
+    for (int c = 1; c <= 9; ++c) {
         g.column(c).heading = heads[c - 1];
-    // Column 8 holds the tick of each trade: "1" counts it, "0" leaves it out.
-    g.column(8).editable = true;
+        g.column(c).width = 10;
+    }
+    // Column 8 holds the tick of each trade: "1" counts it, "0" leaves it out. A click turns it;
+    // it takes no typing, so it holds nothing else.
     g.column(8).width = 3;
 }
 
@@ -137,6 +139,8 @@ void ChargesSheet::addEvents() {
             });
     on("TxtOtherChgs", EventType::Change, [this](Event&) { balanceStep(); });
     on("DTPicker1", EventType::Change, [this](Event&) {
+        // A picker holds only dates: a script's text that is none loads nothing.
+        if (!IsDate(text("DTPicker1"))) return;
         if (rules_.clearsFieldsOnLoad || SheetKind != "Index")
             DoInit();
         else

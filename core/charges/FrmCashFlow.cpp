@@ -26,8 +26,10 @@ FrmCashFlow::FrmCashFlow(App& app) : Form(app, kName, "Cash Flow....Tallimark") 
     Grid& g = addGrid(kGrid, 11);
     const char* heads[] = {"Date",    "Op Bal",  "Op Prem",  "Eq Amt",     "Tot Amt", "Int",
                            "Mtm Int", "Dp Chgs", "Con Chgs", "TOver Chgs", "SDuty"};
-    for (int c = 1; c <= 11; ++c)
+    for (int c = 1; c <= 11; ++c) {
         g.column(c).heading = heads[c - 1];
+        g.column(c).width = c == 1 ? 13 : 11; // the date whole
+    }
     addControl(ControlKind::Button, "Cmd(0)", "&Print");
     on("Cmd", EventType::Click, [this](Event& e) {
         if (e.index == 0) PrintRecords();
@@ -87,8 +89,8 @@ void FrmCashFlow::DoInit() {
         throw;
     } catch (const std::exception& e) {
         const auto* vb = dynamic_cast<const VbError*>(&e);
-        ui().msgBox({std::string("Error in DoInit Proceudre: ") + e.what() + " And No: " +
-                     std::to_string(vb ? vb->number() : 0)});
+        ui().msgBox({std::string("Error in DoInit Proceudre: ") + e.what() +
+                     " And No: " + std::to_string(vb ? vb->number() : 0)});
     }
 }
 

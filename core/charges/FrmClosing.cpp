@@ -99,7 +99,15 @@ void FrmClosing::Command1_Click() {
         charges.control("DTPicker1").text = DateText(day);
         charges.markChanged("DTPicker1");
         app().screens().unload(name());
-        charges.DoInit();
+        // The entry is made for the current sheet, so the load reads the sheet that is open: the
+        // index sheet's load step when that is the one (DoInit would read an absent stock sheet
+        // and leave the market and balance empty), and its date changes follow it.
+        const Form* indexSheet = app().screens().find("FrmPortfolioIndex");
+        charges.SheetKind = indexSheet && indexSheet->visible() ? "Index" : "Stk";
+        if (charges.SheetKind == "Index")
+            charges.DoInit1();
+        else
+            charges.DoInit();
         charges.show();
     } catch (const ProgramEnd&) {
         throw;

@@ -18,7 +18,7 @@ const MenuEntry kMenus[] = {
     {"munopen", "&Open Sheet", "mnufile", "FrmNewMainScreen"},
     // The day's closing of the current sheet, and the cash flow of the sheets ticked on the list.
     {"mnuclosing", "C&losing Entry\tCtrl+L", "mnufile", "FrmClosing"},
-    {"mnucashflow", "Cash F&low\tCtrl+Shift+F", "mnufile", "FrmCashFlow"},
+    {"mnucashflow", "Cas&h Flow\tCtrl+Shift+F", "mnufile", "FrmCashFlow"},
     {"mnuexit", "E&xit", "mnufile", ""},
     {"mnumaster", "&Master", "", ""},
     {"mnuscript", "&Script Master", "mnumaster", "FrmScriptMast"},

@@ -278,7 +278,7 @@ void FormBinder::showControl(const std::string& name) {
     const QString text = qs(control.text);
     if (auto* action = qobject_cast<QAction*>(object)) {
         action->setText(menuText(control.text));
-        // A menu caption names its accelerator after a tab ("Cash F&low\tCtrl+Shift+F").
+        // A menu caption names its accelerator after a tab ("Cas&h Flow\tCtrl+Shift+F").
         if (const qsizetype tab = text.indexOf('\t'); tab >= 0)
             action->setShortcut(QKeySequence(text.mid(tab + 1)));
         action->setEnabled(control.enabled);

@@ -3,8 +3,10 @@
 #include "ReportPainter.h"
 #include "reports/ReportDocument.h"
 
+#include <QGuiApplication>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QScreen>
 
 #include <memory>
 
@@ -18,6 +20,9 @@ void showReportPreview(const ReportDocument& doc, QWidget* parent) {
     dialog->setObjectName(QStringLiteral("ReportPreview"));
     dialog->setWindowTitle(QString::fromStdString(doc.title));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    // Qt's default size shows an A4 page too small to read: most of the screen it stands on.
+    if (const QScreen* screen = (parent ? parent->screen() : QGuiApplication::primaryScreen()))
+        dialog->resize(screen->availableSize() * 0.8);
     // The printer lives as long as the dialog that paints on it.
     QObject::connect(dialog, &QPrintPreviewDialog::paintRequested, dialog,
                      [pages, printer](QPrinter* target) { render::paintReport(*pages, *target); });

@@ -33,6 +33,15 @@ struct Outcome {
     }
 };
 
+// The text of a field in a dump line.
+inline std::string dumpField(const std::string& dump, const std::string& name) {
+    const std::string mark = "\"" + name + R"(":{"text":")";
+    const size_t at = dump.find(mark);
+    if (at == std::string::npos) return "<missing " + name + ">";
+    const size_t from = at + mark.size();
+    return dump.substr(from, dump.find('"', from) - from);
+}
+
 inline bool contains(const std::string& s, const std::string& part) {
     return s.find(part) != std::string::npos;
 }

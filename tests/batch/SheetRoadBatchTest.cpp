@@ -6,18 +6,10 @@
 #include "core/sheet/SheetScenarios.h"
 
 using tallimark::test::contains;
+using tallimark::test::dumpField;
 using tallimark::test::Outcome;
 
 namespace {
-
-// The text of a field in a dump.
-std::string field(const std::string& dump, const std::string& name) {
-    const std::string mark = "\"" + name + R"(":{"text":")";
-    const size_t at = dump.find(mark);
-    if (at == std::string::npos) return "<missing " + name + ">";
-    const size_t from = at + mark.size();
-    return dump.substr(from, dump.find('"', from) - from);
-}
 
 const char* const kResults[] = {"TxtBalance", "txtdelneutral", "TxtPremium",
                                 "TxtOptU",    "TxtOptR",       "TxtFutLots"};
@@ -57,7 +49,7 @@ protected:
         EXPECT_TRUE(contains(traded, unitsCell)) << traded.substr(0, 400);
         EXPECT_TRUE(contains(reopened, unitsCell));
         for (const char* name : kResults)
-            EXPECT_EQ(field(reopened, name), field(traded, name)) << name;
+            EXPECT_EQ(dumpField(reopened, name), dumpField(traded, name)) << name;
         EXPECT_EQ(number(std::string(
                              "select count(*) from Tracker where Units = 5 and Traded = 22.5 and symbol = ") +
                          "'" + sheet.symbol() + "'"),

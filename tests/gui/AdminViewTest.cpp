@@ -58,6 +58,7 @@ private slots:
         QCOMPARE(list->item(1, 0)->text(), "RILZ2026");
         QCOMPARE(list->item(1, 2)->text(), "21-11-2026");
         QVERIFY(list->item(0, 0)->flags().testFlag(Qt::ItemIsUserCheckable));
+        QVERIFY(list->item(0, 0)->data(Qt::CheckStateRole).isValid()); // an unticked row shows its box
         QVERIFY(!list->item(0, 1)->flags().testFlag(Qt::ItemIsEditable));
         QCOMPARE(child<QPushButton>(view, "Command2")->text(), "Pos &File");
 
