@@ -1,7 +1,7 @@
 #include "charges/DayChargesViews.h"
 
-#include "frame/Form.h"
 #include "frame/ButtonRow.h"
+#include "frame/Form.h"
 #include "frame/Named.h"
 
 #include <QGridLayout>

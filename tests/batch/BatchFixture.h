@@ -85,4 +85,23 @@ protected:
     std::filesystem::path dir_;
 };
 
+// A report goes to a PDF only from a batch built with the rendering layer; without it the
+// report's JSON line is all there is to check.
+inline std::string printLine(const std::filesystem::path& pdf) {
+#ifdef TALLIMARK_RENDER
+    return "print " + pdf.string() + "\n";
+#else
+    (void)pdf;
+    return "";
+#endif
+}
+
+inline void expectPdf(const std::filesystem::path& pdf) {
+#ifdef TALLIMARK_RENDER
+    EXPECT_GT(std::filesystem::file_size(pdf), 1000u) << pdf;
+#else
+    (void)pdf;
+#endif
+}
+
 } // namespace tallimark::test
