@@ -10,7 +10,9 @@
 using tallimark::Recordset;
 using tallimark::test::contains;
 using tallimark::test::dumpField;
+using tallimark::test::expectPdf;
 using tallimark::test::Outcome;
+using tallimark::test::printLine;
 
 namespace {
 
