@@ -99,6 +99,10 @@ private slots:
         QTest::keyClick(days, Qt::Key_M, Qt::AltModifier); // the frame's Master menu no more
         QVERIFY(child(view, "TxtMktPrice")->hasFocus());
         QVERIFY(!QApplication::activePopupWidget());
+        QTest::keyClick(child(view, "TxtMktPrice"), Qt::Key_F, Qt::AltModifier); // no key of the sheet's
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QCOMPARE(QApplication::activePopupWidget()->actions()[0]->text(), "&Save");
+        QApplication::activePopupWidget()->close();
 
         QTest::keyClick(child(view, "TxtMktPrice"), Qt::Key_S, Qt::ControlModifier);
         QCOMPARE(frame->statusBar()->currentMessage(), "Sheet saved");
