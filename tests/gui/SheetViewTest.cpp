@@ -102,7 +102,8 @@ private slots:
         QTest::keyClick(child(view, "TxtMktPrice"), Qt::Key_F, Qt::AltModifier); // no key of the sheet's
         QTRY_VERIFY(QApplication::activePopupWidget());
         QCOMPARE(QApplication::activePopupWidget()->actions()[0]->text(), "&Save");
-        QApplication::activePopupWidget()->close();
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape); // one Esc, back to typing
+        QTRY_VERIFY(child(view, "TxtMktPrice")->hasFocus());
 
         QTest::keyClick(child(view, "TxtMktPrice"), Qt::Key_S, Qt::ControlModifier);
         QCOMPARE(frame->statusBar()->currentMessage(), "Sheet saved");
