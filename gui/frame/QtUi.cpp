@@ -220,6 +220,9 @@ void QtUi::showForm(Form& form) {
         if (const QScreen* screen = QGuiApplication::primaryScreen())
             host->setGeometry(screen->availableGeometry());
         host->showMaximized();
+        // The keyboard goes to the frame from the login that went before it, with or without a
+        // window manager to hand it over.
+        host->activateWindow();
     } else
         host->show();
     if (qobject_cast<QMdiSubWindow*>(host)) lastActive_ = host;
