@@ -302,7 +302,9 @@ void FormBinder::showText(const std::string& name, QLineEdit& edit, const Contro
     auto known = selectionKnown_.find(name);
     if (!newText && known != selectionKnown_.end() && known->second == selection) return;
     selectionKnown_[name] = selection;
-    if (control.selLength > 0)
+    // A selection shows in the screen's focused field alone, as a text box hides its selection
+    // without the focus: another field painted selected would read as a second place to type.
+    if (control.selLength > 0 && form_.focused() == name)
         edit.setSelection(control.selStart, control.selLength);
     else
         edit.setCursorPosition(control.selStart);
