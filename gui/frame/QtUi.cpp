@@ -34,6 +34,21 @@ namespace tallimark {
 
 namespace {
 
+// A dialog's end gives the keyboard back to the window it was opened from, with or without a
+// window manager to hand it over.
+class KeyboardBack {
+public:
+    explicit KeyboardBack(QWidget* to) : to_(to) {}
+    ~KeyboardBack() {
+        if (to_ && to_->isVisible()) to_->activateWindow();
+    }
+    KeyboardBack(const KeyboardBack&) = delete;
+    KeyboardBack& operator=(const KeyboardBack&) = delete;
+
+private:
+    QPointer<QWidget> to_;
+};
+
 // A screen shown modally goes only when its model hides it: Esc is a key for the screen's
 // handlers, and the close box asks the model.
 class ModalDialog : public QDialog {
@@ -136,6 +151,7 @@ QtUi::~QtUi() {
 MsgAnswer QtUi::msgBox(const MsgBox& box) {
     ++boxesShown_;
     if (answerer_) return answerer_(box);
+    const KeyboardBack back(activeWindow());
     QMessageBox message(iconOf(box.icon), qs(box.title), qs(box.text), buttonsOf(box.buttons),
                         activeWindow());
     message.setDefaultButton(buttonOf(defaultAnswer(box.buttons)));
@@ -174,6 +190,7 @@ QtUi::Shown QtUi::release(Form& form) {
 
 void QtUi::showModal(Form& form) {
     View view = makeView(form);
+    const KeyboardBack back(activeWindow());
     auto* dialog = new ModalDialog(activeWindow());
     auto* layout = new QVBoxLayout(dialog);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -279,6 +296,7 @@ std::optional<std::string> QtUi::fileDialog(const FileDialog& dialog) {
     QString start = qs(dialog.initialDir);
     if (!dialog.fileName.empty()) start = QDir(start).filePath(qs(dialog.fileName));
     const QString filter = qtFileFilter(dialog.filter);
+    const KeyboardBack back(activeWindow());
     const QString path = dialog.save
                              ? QFileDialog::getSaveFileName(activeWindow(), qs(dialog.title), start, filter)
                              : QFileDialog::getOpenFileName(activeWindow(), qs(dialog.title), start, filter);
