@@ -120,12 +120,14 @@ void followFixedSize(QWidget& host, const QWidget& view) {
 }
 
 // The area puts a new window beside the others, sized before its view has laid itself out: once
-// it has, the window is moved back inside the area, and a window larger than the area is cut
-// to it (its view is laid out to be used at that size).
-void keepInside(QMdiSubWindow& sub) {
-    QTimer::singleShot(0, &sub, [&sub] {
+// it has, the window takes the size its view asked for (asked: invalid when it asked none), is
+// moved back inside the area, and a window larger than the area is cut to it (its view is laid
+// out to be used at that size).
+void keepInside(QMdiSubWindow& sub, QSize asked) {
+    QTimer::singleShot(0, &sub, [&sub, asked] {
         const QSize area = sub.mdiArea()->viewport()->size();
-        sub.resize(sub.size().expandedTo(sub.sizeHint()).boundedTo(area));
+        const QSize frame = sub.size() - sub.widget()->size();
+        sub.resize(sub.size().expandedTo(sub.sizeHint()).expandedTo(asked + frame).boundedTo(area));
         sub.move(std::max(0, std::min(sub.x(), area.width() - sub.width())),
                  std::max(0, std::min(sub.y(), area.height() - sub.height())));
     });
@@ -224,8 +226,9 @@ void QtUi::showForm(Form& form) {
         main_ = frame;
         connect(&frame->mdiArea(), &QMdiArea::subWindowActivated, this, &QtUi::subWindowActivated);
     } else if (main_) {
+        const QSize asked = view.widget->testAttribute(Qt::WA_Resized) ? view.widget->size() : QSize();
         QMdiSubWindow* sub = main_->mdiArea().addSubWindow(view.widget);
-        keepInside(*sub);
+        keepInside(*sub, asked);
         host = sub;
     }
     // Without the main frame a screen stands as a window of its own.
