@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QKeySequence>
 #include <QLabel>
+#include <QMenuBar>
 
 namespace tallimark {
 
@@ -29,6 +30,16 @@ bool pressAccessKey(QWidget& root, int key) {
             label->buddy()->setFocus(Qt::ShortcutFocusReason);
             return true;
         }
+    return false;
+}
+
+bool openMenuOfKey(QWidget& window, int key) {
+    for (QMenuBar* bar : window.findChildren<QMenuBar*>())
+        for (QAction* head : bar->actions())
+            if (bar->isVisible() && head->isVisible() && head->isEnabled() && marks(head->text(), key)) {
+                bar->setActiveAction(head);
+                return true;
+            }
     return false;
 }
 

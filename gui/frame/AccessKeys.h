@@ -9,4 +9,8 @@ namespace tallimark {
 // visible, enabled control of the screen has the letter.
 bool pressAccessKey(QWidget& root, int key);
 
+// Alt with key for the menu bar of window: opens the menu whose head marks the letter. False
+// when no head has it.
+bool openMenuOfKey(QWidget& window, int key);
+
 } // namespace tallimark

@@ -6,7 +6,10 @@
 #include <QAction>
 #include <QCalendarWidget>
 #include <QLineEdit>
+#include <QScreen>
 #include <QStyle>
+
+#include <algorithm>
 
 namespace tallimark {
 
@@ -44,8 +47,15 @@ void addCalendar(QLineEdit& edit, std::function<void()> picked) {
         };
         QObject::connect(calendar, &QCalendarWidget::clicked, calendar, choose);
         QObject::connect(calendar, &QCalendarWidget::activated, calendar, choose);
-        calendar->move(edit.mapToGlobal(QPoint(0, edit.height())));
-        calendar->show();
+        calendar->show(); // first: a popup has its size once shown
+        // Under the field, kept on the screen: a date at the right edge opens its calendar to the
+        // left, one at the foot above itself.
+        const QRect room = edit.screen()->availableGeometry();
+        const QSize size = calendar->frameGeometry().size();
+        QPoint at = edit.mapToGlobal(QPoint(0, edit.height()));
+        if (at.y() + size.height() > room.bottom()) at.ry() -= edit.height() + size.height();
+        at.setX(std::max(room.left(), std::min(at.x(), room.right() + 1 - size.width())));
+        calendar->move(at);
         calendar->setFocus(Qt::PopupFocusReason);
     });
 }

@@ -92,13 +92,11 @@ void showCombo(QComboBox& combo, const Control& control) {
     }
 }
 
-// An Alt key is offered as a shortcut (ShortcutOverride) and then, unless a shortcut took it,
-// pressed. The screen hears its KeyDown at the offer; the press that follows is known by its
-// time stamp, and swallowed when the screen took the key.
+// An Alt key is offered as a shortcut (ShortcutOverride) before it is pressed. The screen
+// takes it at the offer; the press that follows, known by its time stamp, is swallowed.
 struct AltKey {
     ulong stamp = 0;
     int key = 0;
-    bool taken = false;
 };
 std::optional<AltKey> altKeyMark;
 
@@ -106,16 +104,9 @@ bool altKeySeen(const QKeyEvent& key) {
     return altKeyMark && altKeyMark->stamp == key.timestamp() && altKeyMark->key == key.key();
 }
 
-void markAltKey(const QKeyEvent& key, bool taken) {
-    altKeyMark = AltKey{key.timestamp(), key.key(), taken};
-}
-
-// For the press of a key offered before: whether it is done with (swallowed: taken, asked with
-// whole) or had its KeyDown already (asked without whole). The mark goes with the press.
-bool altKeyDone(const QKeyEvent& key, bool whole) {
+// Whether a press is that of a key the screen took at its offer; the mark goes with it.
+bool altKeyDone(const QKeyEvent& key) {
     if (!altKeySeen(key)) return false;
-    const bool taken = altKeyMark->taken;
-    if (whole && !taken) return false;
     altKeyMark.reset();
     return true;
 }
@@ -317,7 +308,9 @@ void FormBinder::showText(const std::string& name, QLineEdit& edit, const Contro
     auto known = selectionKnown_.find(name);
     if (!newText && known != selectionKnown_.end() && known->second == selection) return;
     selectionKnown_[name] = selection;
-    if (control.selLength > 0)
+    // A selection shows in the screen's focused field alone, as a text box hides its selection
+    // without the focus: another field painted selected would read as a second place to type.
+    if (control.selLength > 0 && form_.focused() == name)
         edit.setSelection(control.selStart, control.selLength);
     else
         edit.setCursorPosition(control.selStart);
@@ -439,7 +432,7 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
         return false;
     }
     auto& key = *static_cast<QKeyEvent*>(event);
-    if (altKeyDone(key, true)) return true;
+    if (altKeyDone(key)) return true;
     auto it = names_.find(watched);
     if (it == names_.end()) return false;
     auto* table = qobject_cast<QTableWidget*>(watched);
@@ -457,7 +450,8 @@ bool FormBinder::altKey(QObject* watched, QKeyEvent& key) {
                         (key.key() >= Qt::Key_0 && key.key() <= Qt::Key_9);
     if (!alt || !letter || altKeySeen(key)) return false;
     // Alt and a letter belong to the screen first: its key handlers, then the access letters of
-    // its buttons and labels. What the screen leaves open goes on to the menus.
+    // its buttons and labels, then the menus of its window. Never to a button of another screen
+    // of the frame, which Qt's own shortcuts would reach.
     auto it = names_.find(watched);
     const std::string name = it != names_.end()        ? it->second
                              : form_.focused().empty() ? "Form"
@@ -469,10 +463,11 @@ bool FormBinder::altKey(QObject* watched, QKeyEvent& key) {
         if (controls_.count(name)) mirrorSelection(name);
         down = form_.fire(name, down);
     });
-    const bool taken = down.keyCode == 0 || !attached_ || pressAccessKey(root_, key.key());
-    markAltKey(key, taken);
-    if (taken) key.accept();
-    return taken;
+    if (down.keyCode != 0 && attached_ && !pressAccessKey(root_, key.key()))
+        openMenuOfKey(*root_.window(), key.key());
+    altKeyMark = AltKey{key.timestamp(), key.key()};
+    key.accept();
+    return true;
 }
 
 void FormBinder::entered(QObject* watched, Qt::FocusReason reason) {
@@ -536,8 +531,7 @@ bool FormBinder::keyPressed(const std::string& name, QWidget& widget, QKeyEvent&
     Event down{EventType::KeyDown};
     down.keyCode = deskKeyCode(key);
     down.shift = deskShift(key.modifiers());
-    // An Alt key's KeyDown went to the screen when the key was offered as a shortcut.
-    if (down.keyCode != 0 && !altKeyDone(key, false)) {
+    if (down.keyCode != 0) {
         act([&] {
             if (controls_.count(name)) mirrorSelection(name);
             down = form_.fire(name, down);

@@ -35,6 +35,21 @@ namespace tallimark {
 
 namespace {
 
+// A dialog's end gives the keyboard back to the window it was opened from, with or without a
+// window manager to hand it over.
+class KeyboardBack {
+public:
+    explicit KeyboardBack(QWidget* to) : to_(to) {}
+    ~KeyboardBack() {
+        if (to_ && to_->isVisible()) to_->activateWindow();
+    }
+    KeyboardBack(const KeyboardBack&) = delete;
+    KeyboardBack& operator=(const KeyboardBack&) = delete;
+
+private:
+    QPointer<QWidget> to_;
+};
+
 // A screen shown modally goes only when its model hides it: Esc is a key for the screen's
 // handlers, and the close box asks the model.
 class ModalDialog : public QDialog {
@@ -106,12 +121,14 @@ void followFixedSize(QWidget& host, const QWidget& view) {
 }
 
 // The area puts a new window beside the others, sized before its view has laid itself out: once
-// it has, the window is moved back inside the area, and a window larger than the area is cut
-// to it (its view is laid out to be used at that size).
-void keepInside(QMdiSubWindow& sub) {
-    QTimer::singleShot(0, &sub, [&sub] {
+// it has, the window takes the size its view asked for (asked: invalid when it asked none), is
+// moved back inside the area, and a window larger than the area is cut to it (its view is laid
+// out to be used at that size).
+void keepInside(QMdiSubWindow& sub, QSize asked) {
+    QTimer::singleShot(0, &sub, [&sub, asked] {
         const QSize area = sub.mdiArea()->viewport()->size();
-        sub.resize(sub.size().expandedTo(sub.sizeHint()).boundedTo(area));
+        const QSize frame = sub.size() - sub.widget()->size();
+        sub.resize(sub.size().expandedTo(sub.sizeHint()).expandedTo(asked + frame).boundedTo(area));
         sub.move(std::max(0, std::min(sub.x(), area.width() - sub.width())),
                  std::max(0, std::min(sub.y(), area.height() - sub.height())));
     });
@@ -137,6 +154,7 @@ QtUi::~QtUi() {
 MsgAnswer QtUi::msgBox(const MsgBox& box) {
     ++boxesShown_;
     if (answerer_) return answerer_(box);
+    const KeyboardBack back(activeWindow());
     QMessageBox message(iconOf(box.icon), qs(box.title), qs(box.text), buttonsOf(box.buttons),
                         activeWindow());
     message.setDefaultButton(buttonOf(defaultAnswer(box.buttons)));
@@ -180,6 +198,7 @@ QtUi::Shown QtUi::release(Form& form) {
 
 void QtUi::showModal(Form& form) {
     View view = makeView(form);
+    const KeyboardBack back(activeWindow());
     auto* dialog = new ModalDialog(activeWindow());
     auto* layout = new QVBoxLayout(dialog);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -213,8 +232,9 @@ void QtUi::showForm(Form& form) {
         main_ = frame;
         connect(&frame->mdiArea(), &QMdiArea::subWindowActivated, this, &QtUi::subWindowActivated);
     } else if (main_) {
+        const QSize asked = view.widget->testAttribute(Qt::WA_Resized) ? view.widget->size() : QSize();
         QMdiSubWindow* sub = main_->mdiArea().addSubWindow(view.widget);
-        keepInside(*sub);
+        keepInside(*sub, asked);
         host = sub;
     }
     // Without the main frame a screen stands as a window of its own.
@@ -226,6 +246,9 @@ void QtUi::showForm(Form& form) {
         if (const QScreen* screen = QGuiApplication::primaryScreen())
             host->setGeometry(screen->availableGeometry());
         host->showMaximized();
+        // The keyboard goes to the frame from the login that went before it, with or without a
+        // window manager to hand it over.
+        host->activateWindow();
     } else
         host->show();
     if (qobject_cast<QMdiSubWindow*>(host)) lastActive_ = host;
@@ -281,6 +304,7 @@ bool QtUi::eventFilter(QObject* watched, QEvent* event) {
 std::optional<std::string> QtUi::fileDialog(const FileDialog& dialog) {
     QString start = qs(dialog.initialDir);
     if (!dialog.fileName.empty()) start = QDir(start).filePath(qs(dialog.fileName));
+    const KeyboardBack back(activeWindow());
     QFileDialog box(activeWindow(), qs(dialog.title), start, qtFileFilter(dialog.filter));
     box.setAcceptMode(dialog.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     box.setFileMode(dialog.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

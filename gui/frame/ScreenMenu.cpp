@@ -3,6 +3,7 @@
 #include "frame/Form.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QRegularExpression>
 
@@ -24,6 +25,28 @@ std::vector<const Control*> menusOf(const Form& form) {
     return menus;
 }
 
+// Esc on a menu of the bar closes it and gives the keyboard back to the field it was opened
+// from. Qt's own Esc leaves the bar holding the keyboard, with nothing to show for it, until a
+// second Esc.
+class CloseOnEscape : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
+            return false;
+        static_cast<QWidget*>(watched)->close();
+        return true;
+    }
+};
+
+QMenu* head(const QString& caption, QWidget& owner) {
+    auto* menu = new QMenu(caption, &owner);
+    menu->installEventFilter(new CloseOnEscape(menu));
+    return menu;
+}
+
 } // namespace
 
 void addMenus(const Form& form, QWidget& owner) {
@@ -35,7 +58,7 @@ void addMenus(const Form& form, QWidget& owner) {
     if (heads.empty() && !menus.empty() && owner.objectName() == kHolderName) {
         // Alt+F: the letter the sheet's own keys leave free, and where a desk looks for Save,
         // Print and Exit.
-        auto* all = new QMenu(QStringLiteral("&File"), &owner);
+        QMenu* all = head(QStringLiteral("&File"), owner);
         owner.addAction(all->menuAction());
         top = all;
     }
@@ -44,7 +67,7 @@ void addMenus(const Form& form, QWidget& owner) {
         QWidget* at = menu->menuParent.empty() ? top : opened.at(menu->menuParent);
         QAction* action = nullptr;
         if (heads.count(menu->name)) {
-            QMenu* sub = opened[menu->name] = new QMenu(at);
+            QMenu* sub = opened[menu->name] = at == &owner ? head({}, owner) : new QMenu(at);
             action = sub->menuAction();
         } else {
             action = new QAction(at);

@@ -180,7 +180,8 @@ SheetView::SheetView(Form& form) {
     layout->addLayout(toolbar);
     layout->addWidget(market);
     layout->addLayout(body, 1);
-    resize(1340, 660);
+    // Taller than most screens: the frame cuts it to the height it has, the ladder taking the rest.
+    resize(1340, 1200);
 }
 
 } // namespace tallimark

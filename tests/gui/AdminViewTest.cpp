@@ -155,9 +155,12 @@ private slots:
         QCOMPARE(desk->boxes.size(), size_t(3));
         QCOMPARE(desk->boxes[0].text, kDeskDateForms);
 
+        const QRect room = date->screen()->availableGeometry(); // the field near the right edge
+        view->window()->move(view->window()->x() + room.right() - 100 - date->mapToGlobal(QPoint()).x(), 0);
         QTest::mouseClick(date->findChild<QToolButton*>(), Qt::LeftButton);
         QWidget* calendar = view->findChild<QWidget*>("calendarPopup");
         QVERIFY(calendar && calendar->isVisible());
+        QVERIFY(room.contains(calendar->frameGeometry()));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QCOMPARE(screen.text("DTPicker1"), "24-Nov-26");

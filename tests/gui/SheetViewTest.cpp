@@ -99,6 +99,11 @@ private slots:
         QTest::keyClick(days, Qt::Key_M, Qt::AltModifier); // the frame's Master menu no more
         QVERIFY(child(view, "TxtMktPrice")->hasFocus());
         QVERIFY(!QApplication::activePopupWidget());
+        QTest::keyClick(child(view, "TxtMktPrice"), Qt::Key_F, Qt::AltModifier); // no key of the sheet's
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QCOMPARE(QApplication::activePopupWidget()->actions()[0]->text(), "&Save");
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape); // one Esc, back to typing
+        QTRY_VERIFY(child(view, "TxtMktPrice")->hasFocus());
 
         QTest::keyClick(child(view, "TxtMktPrice"), Qt::Key_S, Qt::ControlModifier);
         QCOMPARE(frame->statusBar()->currentMessage(), "Sheet saved");
