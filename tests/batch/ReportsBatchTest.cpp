@@ -4,7 +4,9 @@
 #include "core/sheet/SheetScenarios.h"
 
 using tallimark::test::contains;
+using tallimark::test::expectPdf;
 using tallimark::test::Outcome;
+using tallimark::test::printLine;
 
 namespace {
 
