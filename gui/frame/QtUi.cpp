@@ -6,8 +6,8 @@
 #include "frame/Form.h"
 #include "frame/FormBinder.h"
 #include "frame/MainWindow.h"
-#include "frame/ScreenMenu.h"
 #include "frame/ReportPreview.h"
+#include "frame/ScreenMenu.h"
 #include "frame/ScriptedUi.h"
 
 #include <QApplication>

@@ -94,7 +94,8 @@ TEST(NewSheet, AnExpiryThatIsNoDateIsRefusedBeforeTheSheetIsWritten) {
     d.save();
     EXPECT_EQ(d.boxLines(),
               std::vector<std::string>{"Entry Error|" + std::string(kDeskDateForms) + "|critical"});
-    EXPECT_TRUE(d.app.store().query("select InSymbol from Trans where InDesc = " + q("NOVEMBER For A")).eof());
+    EXPECT_TRUE(
+        d.app.store().query("select InSymbol from Trans where InDesc = " + q("NOVEMBER For A")).eof());
     EXPECT_EQ(d.f.focused(), "DTPicker1");
 }
 

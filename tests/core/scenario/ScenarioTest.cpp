@@ -2,13 +2,13 @@
 // scenario_figures.py, the two-contract comparison against sheet_figures.py, and the edges that
 // end in a box rather than a figure.
 #include "ScenarioFigures.h"
-#include "sheet/SheetDesk.h"
 #include "admin/FrmNewMainScreen.h"
 #include "scenario/FrmListGraph.h"
 #include "scenario/FrmNewGraph.h"
 #include "scenario/FrmNewGraphGreek.h"
 #include "scenario/FrmSimulation.h"
 #include "scenario/FrmTwoContract.h"
+#include "sheet/SheetDesk.h"
 
 #include <gtest/gtest.h>
 
