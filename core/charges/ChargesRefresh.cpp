@@ -1,5 +1,5 @@
 // The recalculation of the day's charges: RefreshData after a load or a rate, RefreshData1 after
-// a tick, and the balance step B. Each figure is the described formula in its written order,
+// a tick, and the balance step B. Each figure is the desk's formula in its written order,
 // with Round to 2 decimals (ties to even) unless it says otherwise.
 #include "charges/ChargesSheet.h"
 

@@ -30,7 +30,7 @@ private:
     void printTrades(const char* file, const char* connect, const char* rowFilter);
     // The report file beside the program.
     std::string reportFile(const char* name);
-    // Names the sheet for the layouts' headings, in slots past the described ones.
+    // Names the sheet for the layouts' headings, in slots past the run's own formulas.
     void nameSheet(ReportRun& run);
     void trapped(int number, void (FrmPrintOption::*run)());
 };
