@@ -27,6 +27,8 @@ public:
 
 private:
     bool isOption() const { return CP != "S"; }
+    // Turns the Delete mark of a row over; any other cell is left alone.
+    void turnMark(int row, int col);
     std::string seriesWhere() const;
     void fill();
     void sheetFollows();
