@@ -14,6 +14,7 @@ class FrmTrail : public Form {
 public:
     static constexpr const char* kName = "FrmTrail";
     static constexpr const char* kGrid = "va1";
+    static constexpr int kDateCol = 5;
     static constexpr int kMarkCol = 7; // "1" marks a row for Delete; a click turns it over
     explicit FrmTrail(App& app);
 
@@ -26,6 +27,8 @@ public:
 
 private:
     bool isOption() const { return CP != "S"; }
+    // Turns the Delete mark of a row over; any other cell is left alone.
+    void turnMark(int row, int col);
     std::string seriesWhere() const;
     void fill();
     void sheetFollows();

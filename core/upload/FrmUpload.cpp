@@ -165,21 +165,27 @@ void FrmUpload::readFile() {
     // Read in blocks, each up to its last line feed, so the count moves from the start.
     std::string text, rest;
     std::vector<char> block(kReadBlock);
-    while (in) {
-        in.read(block.data(), static_cast<std::streamsize>(block.size()));
-        rest.append(block.data(), static_cast<size_t>(in.gcount()));
-        const size_t cut = in ? rest.rfind('\n') : rest.size() - 1;
-        if (rest.empty() || cut == std::string::npos) continue;
-        text.assign(rest, 0, cut + 1);
-        rest.erase(0, cut + 1);
-        forEachTextLine(text, [&](std::string_view one) {
-            splitTradeLine(one, kind, row);
-            interpretTradeRow(row, kind, filter, line);
-            if (++lines % kProgressStep == 0) showLinesRead(lines);
-            if (!line.belongs || known.count(UCase(Trim(row[1])))) return;
-            storeLine(row, line);
-            stageLine(row, line);
-        });
+    // A line that stops the upload leaves the count at the lines read up to it.
+    try {
+        while (in) {
+            in.read(block.data(), static_cast<std::streamsize>(block.size()));
+            rest.append(block.data(), static_cast<size_t>(in.gcount()));
+            const size_t cut = in ? rest.rfind('\n') : rest.size() - 1;
+            if (rest.empty() || cut == std::string::npos) continue;
+            text.assign(rest, 0, cut + 1);
+            rest.erase(0, cut + 1);
+            forEachTextLine(text, [&](std::string_view one) {
+                splitTradeLine(one, kind, row);
+                interpretTradeRow(row, kind, filter, line);
+                if (++lines % kProgressStep == 0) showLinesRead(lines);
+                if (!line.belongs || known.count(UCase(Trim(row[1])))) return;
+                storeLine(row, line);
+                stageLine(row, line);
+            });
+        }
+    } catch (...) {
+        showLinesRead(lines);
+        throw;
     }
     if (in.bad()) throw VbError(57, "Device I/O error");
     showLinesRead(lines);

@@ -14,7 +14,10 @@ void dispatch(Form& form, const std::function<void()>& action) {
     ++depth;
     try {
         action();
-        form.flush();
+        // An action may change other screens than its own (a trail's correction moves the sheet
+        // behind it): every screen shows what it now holds.
+        for (Form* changed : app.screens().loaded())
+            changed->flush();
     } catch (const std::exception& e) {
         // The models trap their own errors; an exception must still never cross Qt's event loop.
         app.ui().msgBox({e.what(), kAppTitle, MsgButtons::Ok, MsgIcon::Critical});

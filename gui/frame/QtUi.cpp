@@ -153,6 +153,7 @@ QtUi::~QtUi() {
 
 MsgAnswer QtUi::msgBox(const MsgBox& box) {
     ++boxesShown_;
+    showChanges();
     if (answerer_) return answerer_(box);
     const KeyboardBack back(activeWindow());
     QMessageBox message(iconOf(box.icon), qs(box.title), qs(box.text), buttonsOf(box.buttons),
@@ -178,6 +179,13 @@ void QtUi::setBusy(bool busy) {
         QApplication::setOverrideCursor(Qt::WaitCursor);
     else
         QApplication::restoreOverrideCursor();
+}
+
+void QtUi::showChanges() {
+    // A box or a modal screen waits for the desk mid-way through a handler: the screens behind
+    // it show the figures of that moment, not those of the last event.
+    for (const auto& [form, shown] : shown_)
+        form->flush();
 }
 
 void QtUi::present(Form& form, QWidget* host, QWidget* view, FormBinder* binder, QDialog* dialog) {
@@ -211,6 +219,7 @@ void QtUi::showModal(Form& form) {
     followFixedSize(*dialog, *view.widget);
     connect(view.widget, &QWidget::windowTitleChanged, dialog, &QWidget::setWindowTitle);
     present(form, dialog, view.widget, view.binder, dialog);
+    showChanges();
     if (form.visible()) dialog->exec();
     // formHidden ends the dialog; a dialog ended otherwise still lets its screen go.
     if (shown_.count(&form)) release(form);

@@ -54,6 +54,8 @@ private:
     // Forgets a shown screen and stops its view; the caller disposes of the window.
     Shown release(Form& form);
     QWidget* activeWindow() const;
+    // Every shown screen tells its view what changed.
+    void showChanges();
     // A screen's window became the active one of the frame: the screen hears Activate.
     void subWindowActivated(QWidget* sub);
 

@@ -18,8 +18,7 @@ UploadView::UploadView() {
     for (const auto& [label, name] : {std::pair{"Symbol", "TxtSymbol"},
                                       {"Description", "TxtDesc"},
                                       {"Market Price", "TxtMktPrice"},
-                                      {"Expiry", "TxtExpDtN"},
-                                      {"Trade Date", "DTPicker1"}})
+                                      {"Expiry", "TxtExpDtN"}})
         fields->addRow(label, named<QLineEdit>(name));
     auto* file = new QHBoxLayout;
     auto* path = named<QLineEdit>("TxtFileNm");
@@ -27,6 +26,8 @@ UploadView::UploadView() {
     file->addWidget(path);
     file->addWidget(named<QPushButton>("Command1"));
     fields->addRow("File", file);
+    // Below the file, where the Tab key goes next.
+    fields->addRow("Trade Date", named<QLineEdit>("DTPicker1"));
     auto* layouts = new QHBoxLayout;
     layouts->addWidget(named<QRadioButton>("Option1(0)"));
     layouts->addWidget(named<QRadioButton>("Option1(1)"));

@@ -25,9 +25,11 @@ struct GuiDesk {
 
     QTemporaryDir dir;
     std::vector<MsgBox> boxes;
+    std::function<void(const MsgBox&)> onBox; // looks at the screens while a box is up
     Clock clock;
     QtUi ui{[this](const MsgBox& box) {
         boxes.push_back(box);
+        if (onBox) onBox(box);
         return defaultAnswer(box.buttons);
     }};
     App app{ui, clock, dir.path().toStdString()};
