@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <QTimer>
 
@@ -17,7 +18,7 @@ namespace {
 // share of the spare room added.
 class Spreader : public QObject {
 public:
-    explicit Spreader(QTableWidget& table) : QObject(&table), table_(table) {
+    Spreader(QTableWidget& table, Widen widen) : QObject(&table), table_(table), widen_(widen) {
         QHeaderView& header = *table.horizontalHeader();
         connect(&header, &QHeaderView::sectionResized, this, [this](int col, int, int size) {
             if (spreading_ || size == 0) return;
@@ -57,6 +58,11 @@ private:
             used += own_[static_cast<size_t>(col)];
         }
         if (shown.empty()) return;
+        if (widen_ == Widen::ToColumns) {
+            const QHeaderView& rows = *table_.verticalHeader();
+            table_.setMinimumWidth(used + 2 * table_.frameWidth() + (rows.isHidden() ? 0 : rows.width()) +
+                                   table_.verticalScrollBar()->sizeHint().width());
+        }
         const int spare = std::max(0, table_.viewport()->width() - used);
         const int share = spare / static_cast<int>(shown.size());
         spreading_ = true;
@@ -67,6 +73,7 @@ private:
     }
 
     QTableWidget& table_;
+    const Widen widen_;
     std::vector<int> own_;
     bool spreading_ = false;
     bool pending_ = false;
@@ -74,9 +81,9 @@ private:
 
 } // namespace
 
-void spreadSpareWidth(QTableWidget& table) {
+void spreadSpareWidth(QTableWidget& table, Widen widen) {
     table.horizontalHeader()->setStretchLastSection(false);
-    new Spreader(table);
+    new Spreader(table, widen);
 }
 
 } // namespace tallimark

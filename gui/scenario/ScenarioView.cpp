@@ -3,6 +3,7 @@
 #include "frame/Canvas.h"
 #include "frame/Form.h"
 #include "frame/Named.h"
+#include "frame/SpareWidth.h"
 #include "scenario/PictureBox.h"
 
 #include <QGridLayout>
@@ -68,8 +69,9 @@ QTableWidget* list(const std::string& name) {
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->verticalHeader()->hide();
-    table->horizontalHeader()->setStretchLastSection(true);
     table->setMinimumSize(120 * 3, 300);
+    // The screen sizes itself to its contents: the list asks for its columns whole.
+    spreadSpareWidth(*table, Widen::ToColumns);
     return table;
 }
 
