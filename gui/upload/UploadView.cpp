@@ -11,6 +11,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <string_view>
+
 namespace tallimark {
 
 UploadView::UploadView() {
@@ -19,8 +21,11 @@ UploadView::UploadView() {
                                       {"Description", "TxtDesc"},
                                       {"Market Price", "TxtMktPrice"},
                                       {"Expiry", "TxtExpDtN"},
-                                      {"Trade Date", "DTPicker1"}})
-        fields->addRow(label, named<QLineEdit>(name));
+                                      {"Trade Date", "DTPicker1"}}) {
+        auto* field = named<QLineEdit>(name);
+        if (std::string_view(name) == "TxtMktPrice") field->setAlignment(Qt::AlignRight); // a figure
+        fields->addRow(label, field);
+    }
     auto* file = new QHBoxLayout;
     auto* path = named<QLineEdit>("TxtFileNm");
     path->setMinimumWidth(320);
