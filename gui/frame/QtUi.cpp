@@ -6,8 +6,8 @@
 #include "frame/Form.h"
 #include "frame/FormBinder.h"
 #include "frame/MainWindow.h"
-#include "frame/ScreenMenu.h"
 #include "frame/ReportPreview.h"
+#include "frame/ScreenMenu.h"
 #include "frame/ScriptedUi.h"
 
 #include <QApplication>
@@ -124,13 +124,30 @@ void followFixedSize(QWidget& host, const QWidget& view) {
 // it has, the window takes the size its view asked for (asked: invalid when it asked none), is
 // moved back inside the area, and a window larger than the area is cut to it (its view is laid
 // out to be used at that size).
+void moveInside(QMdiSubWindow& sub) {
+    const QSize area = sub.mdiArea()->viewport()->size();
+    sub.move(std::max(0, std::min(sub.x(), area.width() - sub.width())),
+             std::max(0, std::min(sub.y(), area.height() - sub.height())));
+}
+
+// A window that grows with its view after it opened (a list taking its columns) is moved back
+// inside the area as it grows.
+class InsideOnGrowth : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Resize) moveInside(*static_cast<QMdiSubWindow*>(watched));
+        return false;
+    }
+};
+
 void keepInside(QMdiSubWindow& sub, QSize asked) {
     QTimer::singleShot(0, &sub, [&sub, asked] {
         const QSize area = sub.mdiArea()->viewport()->size();
         const QSize frame = sub.size() - sub.widget()->size();
         sub.resize(sub.size().expandedTo(sub.sizeHint()).expandedTo(asked + frame).boundedTo(area));
-        sub.move(std::max(0, std::min(sub.x(), area.width() - sub.width())),
-                 std::max(0, std::min(sub.y(), area.height() - sub.height())));
+        moveInside(sub);
+        sub.installEventFilter(new InsideOnGrowth(&sub));
     });
 }
 
