@@ -560,6 +560,11 @@ bool FormBinder::keyPressed(const std::string& name, QWidget& widget, QKeyEvent&
         button->click();
         return true;
     }
+    // Esc that the screen's handlers left alone closes a screen of the frame as its close box
+    // does (the model may still refuse): a desk expects it of every window, and most screens
+    // give Esc no work of their own. The frame and the login are left to their own keys.
+    if (key.key() == Qt::Key_Escape && form_.visible() && &root_ != root_.window())
+        act([this] { form_.requestClose(); });
     // Enter and Esc belong to the screen's handlers; left to Qt they would press a dialog's
     // default button or close it.
     return enter || key.key() == Qt::Key_Escape;
