@@ -117,6 +117,21 @@ int columnPixels(const QTableWidget& table, double width) {
     return static_cast<int>(width * table.fontMetrics().horizontalAdvance(QLatin1Char('0'))) + 8;
 }
 
+// A caption for a label: an "&" before a blank marks no letter (Alt+Space is the window's own
+// menu), so it stands as written, "S Duty On F & O", not as an underlined gap.
+QString labelCaption(const QString& text) {
+    QString shown;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        shown += text[i];
+        if (text[i] != QLatin1Char('&') || i + 1 == text.size()) continue;
+        if (text[i + 1] == QLatin1Char('&'))
+            shown += text[++i]; // "&&" is already a written "&"
+        else if (text[i + 1] == QLatin1Char(' '))
+            shown += QLatin1Char('&');
+    }
+    return shown;
+}
+
 } // namespace
 
 FormBinder::FormBinder(Form& form, QWidget& root) : QObject(&root), form_(form), root_(root) {
@@ -285,7 +300,7 @@ void FormBinder::showControl(const std::string& name) {
     if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
         showText(name, *edit, control);
     } else if (auto* label = qobject_cast<QLabel*>(widget)) {
-        label->setText(text);
+        label->setText(labelCaption(text));
     } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
         button->setText(text);
         if (button->isCheckable()) button->setChecked(control.value);
