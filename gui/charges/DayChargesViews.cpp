@@ -61,7 +61,10 @@ QTableWidget* table(int cols) {
 QHBoxLayout* dateRow(const char* label) {
     auto* row = new QHBoxLayout;
     row->addWidget(new QLabel(QString::fromLatin1(label)));
-    row->addWidget(named<QLineEdit>("DTPicker1")); // the binder gives a date field its calendar
+    auto* date = named<QLineEdit>("DTPicker1"); // the binder gives a date field its calendar
+    // As wide as a date and its calendar button, not half the screen's width.
+    date->setMaximumWidth(date->fontMetrics().horizontalAdvance(QStringLiteral("30-Nov-2026")) + 48);
+    row->addWidget(date);
     row->addStretch();
     return row;
 }
