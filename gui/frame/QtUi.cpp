@@ -130,15 +130,28 @@ void moveInside(QMdiSubWindow& sub) {
              std::max(0, std::min(sub.y(), area.height() - sub.height())));
 }
 
-// A window that grows with its view after it opened (a list taking its columns) is moved back
-// inside the area as it grows.
+// A window whose view asks for more room after it opened (a list taking its columns) grows to
+// it, within the area, and is moved back inside the area as it grows.
 class InsideOnGrowth : public QObject {
 public:
-    using QObject::QObject;
+    explicit InsideOnGrowth(QMdiSubWindow& sub) : QObject(&sub), sub_(sub) {
+        sub.installEventFilter(this);
+        sub.widget()->installEventFilter(this);
+    }
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Resize) moveInside(*static_cast<QMdiSubWindow*>(watched));
+        if (watched == &sub_ && event->type() == QEvent::Resize) moveInside(sub_);
+        if (watched == sub_.widget() && event->type() == QEvent::LayoutRequest) {
+            const QSize frame = sub_.size() - sub_.widget()->size();
+            const QSize wanted =
+                sub_.widget()->minimumSizeHint().expandedTo(sub_.widget()->minimumSize()) + frame;
+            if (wanted.width() > sub_.width() || wanted.height() > sub_.height())
+                sub_.resize(sub_.size().expandedTo(wanted).boundedTo(sub_.mdiArea()->viewport()->size()));
+        }
         return false;
     }
+
+private:
+    QMdiSubWindow& sub_;
 };
 
 void keepInside(QMdiSubWindow& sub, QSize asked) {
@@ -147,7 +160,7 @@ void keepInside(QMdiSubWindow& sub, QSize asked) {
         const QSize frame = sub.size() - sub.widget()->size();
         sub.resize(sub.size().expandedTo(sub.sizeHint()).expandedTo(asked + frame).boundedTo(area));
         moveInside(sub);
-        sub.installEventFilter(new InsideOnGrowth(&sub));
+        new InsideOnGrowth(sub);
     });
 }
 
