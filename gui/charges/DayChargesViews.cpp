@@ -3,11 +3,11 @@
 #include "frame/ButtonRow.h"
 #include "frame/Form.h"
 #include "frame/Named.h"
+#include "frame/SpareWidth.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableWidget>
@@ -53,8 +53,9 @@ QGroupBox* block(Form& form, const char* title, std::initializer_list<const char
 QTableWidget* table(int cols) {
     auto* grid = named<QTableWidget>("va1");
     grid->setColumnCount(cols);
-    grid->horizontalHeader()->setStretchLastSection(true);
     grid->setMinimumHeight(180);
+    // Every column whole when the screen opens: the cash flow's eleven were cut at 900 pixels.
+    spreadSpareWidth(*grid, Widen::ToColumns);
     return grid;
 }
 
