@@ -27,6 +27,7 @@ FrmTrail::FrmTrail(App& app) : Form(app, kName, "Trail Track....Tallimark") {
         g.column(c).heading = kHeadings[c - 1];
         g.column(c).editable = c < kMarkCol;
     }
+    g.column(kMarkCol).tickMark = true;
     addControl(ControlKind::Button, "Command1", "&Delete");
     addControl(ControlKind::Button, "Command3", "&Update");
     addControl(ControlKind::Button, "Command2", "&CLose");

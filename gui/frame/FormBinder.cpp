@@ -61,15 +61,17 @@ void setItemData(QTableWidgetItem& item, int role, const QVariant& value) {
     if (item.data(role) != value) item.setData(role, value);
 }
 
-void showCell(QTableWidgetItem& item, const Cell& cell, Qt::ItemFlags flags, bool checkable) {
-    const QString text = qs(cell.text);
+// A tick mark shows its box alone: the model's "1" or "0" is the box's state, not a text.
+void showCell(QTableWidgetItem& item, const Cell& cell, Qt::ItemFlags flags, bool checkable, bool tickMark) {
+    const QString text = tickMark ? QString() : qs(cell.text);
     if (item.text() != text) item.setText(text);
     if (item.flags() != flags) item.setFlags(flags);
     setItemData(item, Qt::ForegroundRole, brush(cell.fore));
     setItemData(item, Qt::BackgroundRole, brush(cell.back));
     // A box shows only once it has a state: an unticked one is set too.
-    const Qt::CheckState state = cell.checked ? Qt::Checked : Qt::Unchecked;
-    if (checkable && (!item.data(Qt::CheckStateRole).isValid() || item.checkState() != state))
+    const bool ticked = tickMark ? cell.text == "1" : cell.checked;
+    const Qt::CheckState state = ticked ? Qt::Checked : Qt::Unchecked;
+    if ((checkable || tickMark) && (!item.data(Qt::CheckStateRole).isValid() || item.checkState() != state))
         item.setCheckState(state);
 }
 
@@ -384,7 +386,7 @@ void FormBinder::showGrid(const std::string& name, GridView& view) {
         for (int row = 1; row <= grid.maxRows(); ++row) {
             QTableWidgetItem* item = table.item(row - 1, col - 1);
             if (!item) table.setItem(row - 1, col - 1, item = new QTableWidgetItem);
-            showCell(*item, grid.cell(row, col), flags, checkable);
+            showCell(*item, grid.cell(row, col), flags, checkable, grid.column(col).tickMark);
         }
     }
     if (grid.backColor && table.palette().color(QPalette::Base) != qcolor(*grid.backColor)) {
@@ -569,8 +571,15 @@ bool FormBinder::keyPressed(const std::string& name, QWidget& widget, QKeyEvent&
             return true;
         }
     }
-    if (auto* table = qobject_cast<QTableWidget*>(&widget); table && key.key() == Qt::Key_Space)
+    if (auto* table = qobject_cast<QTableWidget*>(&widget); table && key.key() == Qt::Key_Space) {
         if (toggleCheck(*table)) return true;
+        // Space on a tick mark turns it over as the mouse's click does.
+        const int row = table->currentRow(), col = table->currentColumn();
+        if (row >= 0 && col >= 0 && form_.grid(name).column(col + 1).tickMark) {
+            cellEvent(name, EventType::Click, row, col);
+            return true;
+        }
+    }
     if (auto* button = qobject_cast<QPushButton*>(&widget); button && enter) {
         button->click();
         return true;
