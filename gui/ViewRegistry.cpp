@@ -107,7 +107,7 @@ const std::map<std::string, Maker, std::less<>> kViews = {
     {FrmListGraph::kName, make<ScenarioView>},
     {FrmNewGraph::kName, make<ScenarioView>},
     {FrmNewGraphGreek::kName, make<ScenarioView>},
-    {FrmTwoContract::kName, make<ScenarioView>},
+    {FrmTwoContract::kName, make<TwoContractView>},
     {FrmPrintOption::kName, make<PrintOptionView>},
     {FrmReport::kName, make<ReportDataView>},
     {FrmCreatePon::kName, make<CreatePonView>},

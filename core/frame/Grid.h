@@ -29,6 +29,9 @@ struct GridColumn {
     bool hidden = false;
     bool editable = false;
     int maxLength = 0;
+    // The cells hold "1" or "0" and the window shows them as tick boxes; turning one over is a
+    // click on the cell, for the screen to answer.
+    bool tickMark = false;
 };
 
 class Grid {

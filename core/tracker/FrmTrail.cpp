@@ -9,8 +9,6 @@ namespace tallimark {
 
 namespace {
 
-constexpr int kSpace = 32;
-
 const char* const kHeadings[] = {"Units", "Traded", "MktPrice", "Vol", "TradeDt", "Time", "Delete"};
 
 // A grid row read for its statements, every conversion done before the ledger is touched.
@@ -30,17 +28,13 @@ FrmTrail::FrmTrail(App& app) : Form(app, kName, "Trail Track....Tallimark") {
         g.column(c).editable = c < kMarkCol;
     }
     g.column(kDateCol).width = 11; // a whole date, DD-MM-YYYY, not cut at the column's edge
+    g.column(kMarkCol).tickMark = true;
     addControl(ControlKind::Button, "Command1", "&Delete");
     addControl(ControlKind::Button, "Command3", "&Update");
     addControl(ControlKind::Button, "Command2", "&CLose");
     // The opener sets the series once the screen is loaded: the list is read as it comes up.
     on("Form", EventType::Activate, [this](Event&) { fill(); });
     on(kGrid, EventType::Click, [this](Event& e) { turnMark(e.row, e.col); });
-    // Space turns the mark over as a click does, so that a row can be marked from the keyboard.
-    on(kGrid, EventType::KeyDown, [this](Event& e) {
-        const Grid& g = grid(kGrid);
-        if (e.keyCode == kSpace) turnMark(g.activeRow, g.activeCol);
-    });
     on("Command1", EventType::Click, [this](Event&) { Command1_Click(); });
     on("Command3", EventType::Click, [this](Event&) { Command3_Click(); });
     on("Command2", EventType::Click, [this](Event&) { this->app().screens().unload(name()); });

@@ -3,11 +3,11 @@
 #include "frame/ButtonRow.h"
 #include "frame/Form.h"
 #include "frame/Named.h"
+#include "frame/SpareWidth.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableWidget>
@@ -53,15 +53,19 @@ QGroupBox* block(Form& form, const char* title, std::initializer_list<const char
 QTableWidget* table(int cols) {
     auto* grid = named<QTableWidget>("va1");
     grid->setColumnCount(cols);
-    grid->horizontalHeader()->setStretchLastSection(true);
     grid->setMinimumHeight(180);
+    // Every column whole when the screen opens: the cash flow's eleven were cut at 900 pixels.
+    spreadSpareWidth(*grid, Widen::ToColumns);
     return grid;
 }
 
 QHBoxLayout* dateRow(const char* label) {
     auto* row = new QHBoxLayout;
     row->addWidget(new QLabel(QString::fromLatin1(label)));
-    row->addWidget(named<QLineEdit>("DTPicker1")); // the binder gives a date field its calendar
+    auto* date = named<QLineEdit>("DTPicker1"); // the binder gives a date field its calendar
+    // As wide as a date and its calendar button, not half the screen's width.
+    date->setMaximumWidth(date->fontMetrics().horizontalAdvance(QStringLiteral("30-Nov-2026")) + 48);
+    row->addWidget(date);
     row->addStretch();
     return row;
 }

@@ -61,15 +61,17 @@ void setItemData(QTableWidgetItem& item, int role, const QVariant& value) {
     if (item.data(role) != value) item.setData(role, value);
 }
 
-void showCell(QTableWidgetItem& item, const Cell& cell, Qt::ItemFlags flags, bool checkable) {
-    const QString text = qs(cell.text);
+// A tick mark shows its box alone: the model's "1" or "0" is the box's state, not a text.
+void showCell(QTableWidgetItem& item, const Cell& cell, Qt::ItemFlags flags, bool checkable, bool tickMark) {
+    const QString text = tickMark ? QString() : qs(cell.text);
     if (item.text() != text) item.setText(text);
     if (item.flags() != flags) item.setFlags(flags);
     setItemData(item, Qt::ForegroundRole, brush(cell.fore));
     setItemData(item, Qt::BackgroundRole, brush(cell.back));
     // A box shows only once it has a state: an unticked one is set too.
-    const Qt::CheckState state = cell.checked ? Qt::Checked : Qt::Unchecked;
-    if (checkable && (!item.data(Qt::CheckStateRole).isValid() || item.checkState() != state))
+    const bool ticked = tickMark ? cell.text == "1" : cell.checked;
+    const Qt::CheckState state = ticked ? Qt::Checked : Qt::Unchecked;
+    if ((checkable || tickMark) && (!item.data(Qt::CheckStateRole).isValid() || item.checkState() != state))
         item.setCheckState(state);
 }
 
@@ -115,6 +117,21 @@ bool altKeyDone(const QKeyEvent& key) {
 // that many characters fits.
 int columnPixels(const QTableWidget& table, double width) {
     return static_cast<int>(width * table.fontMetrics().horizontalAdvance(QLatin1Char('0'))) + 8;
+}
+
+// A caption for a label: an "&" before a blank marks no letter (Alt+Space is the window's own
+// menu), so it stands as written, "S Duty On F & O", not as an underlined gap.
+QString labelCaption(const QString& text) {
+    QString shown;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        shown += text[i];
+        if (text[i] != QLatin1Char('&') || i + 1 == text.size()) continue;
+        if (text[i + 1] == QLatin1Char('&'))
+            shown += text[++i]; // "&&" is already a written "&"
+        else if (text[i + 1] == QLatin1Char(' '))
+            shown += QLatin1Char('&');
+    }
+    return shown;
 }
 
 } // namespace
@@ -285,7 +302,7 @@ void FormBinder::showControl(const std::string& name) {
     if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
         showText(name, *edit, control);
     } else if (auto* label = qobject_cast<QLabel*>(widget)) {
-        label->setText(text);
+        label->setText(labelCaption(text));
     } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
         button->setText(text);
         if (button->isCheckable()) button->setChecked(control.value);
@@ -369,7 +386,7 @@ void FormBinder::showGrid(const std::string& name, GridView& view) {
         for (int row = 1; row <= grid.maxRows(); ++row) {
             QTableWidgetItem* item = table.item(row - 1, col - 1);
             if (!item) table.setItem(row - 1, col - 1, item = new QTableWidgetItem);
-            showCell(*item, grid.cell(row, col), flags, checkable);
+            showCell(*item, grid.cell(row, col), flags, checkable, grid.column(col).tickMark);
         }
     }
     if (grid.backColor && table.palette().color(QPalette::Base) != qcolor(*grid.backColor)) {
@@ -554,12 +571,24 @@ bool FormBinder::keyPressed(const std::string& name, QWidget& widget, QKeyEvent&
             return true;
         }
     }
-    if (auto* table = qobject_cast<QTableWidget*>(&widget); table && key.key() == Qt::Key_Space)
+    if (auto* table = qobject_cast<QTableWidget*>(&widget); table && key.key() == Qt::Key_Space) {
         if (toggleCheck(*table)) return true;
+        // Space on a tick mark turns it over as the mouse's click does.
+        const int row = table->currentRow(), col = table->currentColumn();
+        if (row >= 0 && col >= 0 && form_.grid(name).column(col + 1).tickMark) {
+            cellEvent(name, EventType::Click, row, col);
+            return true;
+        }
+    }
     if (auto* button = qobject_cast<QPushButton*>(&widget); button && enter) {
         button->click();
         return true;
     }
+    // Esc that the screen's handlers left alone closes a screen of the frame as its close box
+    // does (the model may still refuse): a desk expects it of every window, and most screens
+    // give Esc no work of their own. The frame and the login are left to their own keys.
+    if (key.key() == Qt::Key_Escape && form_.visible() && &root_ != root_.window())
+        act([this] { form_.requestClose(); });
     // Enter and Esc belong to the screen's handlers; left to Qt they would press a dialog's
     // default button or close it.
     return enter || key.key() == Qt::Key_Escape;

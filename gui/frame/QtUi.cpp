@@ -124,13 +124,43 @@ void followFixedSize(QWidget& host, const QWidget& view) {
 // it has, the window takes the size its view asked for (asked: invalid when it asked none), is
 // moved back inside the area, and a window larger than the area is cut to it (its view is laid
 // out to be used at that size).
+void moveInside(QMdiSubWindow& sub) {
+    const QSize area = sub.mdiArea()->viewport()->size();
+    sub.move(std::max(0, std::min(sub.x(), area.width() - sub.width())),
+             std::max(0, std::min(sub.y(), area.height() - sub.height())));
+}
+
+// A window whose view asks for more room after it opened (a list taking its columns) grows to
+// it, within the area, and is moved back inside the area as it grows.
+class InsideOnGrowth : public QObject {
+public:
+    explicit InsideOnGrowth(QMdiSubWindow& sub) : QObject(&sub), sub_(sub) {
+        sub.installEventFilter(this);
+        sub.widget()->installEventFilter(this);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == &sub_ && event->type() == QEvent::Resize) moveInside(sub_);
+        if (watched == sub_.widget() && event->type() == QEvent::LayoutRequest) {
+            const QSize frame = sub_.size() - sub_.widget()->size();
+            const QSize wanted =
+                sub_.widget()->minimumSizeHint().expandedTo(sub_.widget()->minimumSize()) + frame;
+            if (wanted.width() > sub_.width() || wanted.height() > sub_.height())
+                sub_.resize(sub_.size().expandedTo(wanted).boundedTo(sub_.mdiArea()->viewport()->size()));
+        }
+        return false;
+    }
+
+private:
+    QMdiSubWindow& sub_;
+};
+
 void keepInside(QMdiSubWindow& sub, QSize asked) {
     QTimer::singleShot(0, &sub, [&sub, asked] {
         const QSize area = sub.mdiArea()->viewport()->size();
         const QSize frame = sub.size() - sub.widget()->size();
         sub.resize(sub.size().expandedTo(sub.sizeHint()).expandedTo(asked + frame).boundedTo(area));
-        sub.move(std::max(0, std::min(sub.x(), area.width() - sub.width())),
-                 std::max(0, std::min(sub.y(), area.height() - sub.height())));
+        moveInside(sub);
+        new InsideOnGrowth(sub);
     });
 }
 

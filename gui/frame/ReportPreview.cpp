@@ -4,6 +4,7 @@
 #include "reports/ReportDocument.h"
 
 #include <QGuiApplication>
+#include <QPointer>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QScreen>
@@ -26,7 +27,13 @@ void showReportPreview(const ReportDocument& doc, QWidget* parent) {
     // The printer lives as long as the dialog that paints on it.
     QObject::connect(dialog, &QPrintPreviewDialog::paintRequested, dialog,
                      [pages, printer](QPrinter* target) { render::paintReport(*pages, *target); });
+    // The preview takes the keyboard, so that Esc closes it, and gives it back to the window it
+    // was asked from, with or without a window manager to hand it over.
+    QObject::connect(dialog, &QDialog::finished, dialog, [back = QPointer<QWidget>(parent)] {
+        if (back && back->isVisible()) back->activateWindow();
+    });
     dialog->show();
+    dialog->activateWindow();
 }
 
 } // namespace tallimark

@@ -19,6 +19,8 @@ namespace {
 QLineEdit* figure(const char* name) {
     auto* field = named<QLineEdit>(name);
     field->setMinimumWidth(90);
+    // Every field of the calculator holds a figure: it lines up on its last digit.
+    field->setAlignment(Qt::AlignRight);
     return field;
 }
 

@@ -3,6 +3,8 @@
 #include "frame/Canvas.h"
 #include "frame/Form.h"
 #include "frame/Named.h"
+#include "frame/SpareWidth.h"
+#include "scenario/GraphScreen.h"
 #include "scenario/PictureBox.h"
 
 #include <QGridLayout>
@@ -40,6 +42,8 @@ QGridLayout* fields(Form& form) {
                         line, col, Qt::AlignRight);
         auto* edit = named<QLineEdit>(name.c_str());
         edit->setFixedWidth(96);
+        // Figures line up on their last digit; the dates read from the left.
+        if (name.find("Dt") == std::string::npos) edit->setAlignment(Qt::AlignRight);
         grid->addWidget(edit, line, col + 1);
         ++at;
     }
@@ -68,18 +72,21 @@ QTableWidget* list(const std::string& name) {
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->verticalHeader()->hide();
-    table->horizontalHeader()->setStretchLastSection(true);
     table->setMinimumSize(120 * 3, 300);
+    // The screen sizes itself to its contents: the list asks for its columns whole.
+    spreadSpareWidth(*table, Widen::ToColumns);
     return table;
 }
 
 } // namespace
 
-ScenarioView::ScenarioView(Form& form) {
+ScenarioView::ScenarioView(Form& form) : ScenarioView(form, fields(form), Lists::Beside) {}
+
+ScenarioView::ScenarioView(Form& form, QLayout* fields, Lists lists) {
     auto* layout = new QVBoxLayout(this);
     // The window opens large enough for all it holds.
     layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addLayout(fields(form));
+    layout->addLayout(fields);
     layout->addLayout(row(form, true));
     layout->addLayout(row(form, false));
     auto* body = new QHBoxLayout;
@@ -87,8 +94,19 @@ ScenarioView::ScenarioView(Form& form) {
         for (const std::string& name : form.controlOrder())
             if (form.hasControl(name) && form.control(name).kind == ControlKind::Picture)
                 body->addWidget(new PictureBox(form, *screen, name.c_str()), 0, Qt::AlignTop);
-    for (const std::string& name : form.gridNames())
-        body->addWidget(list(name));
+    QVBoxLayout* stack = lists == Lists::Stacked ? new QVBoxLayout : nullptr;
+    for (const std::string& name : form.gridNames()) {
+        QTableWidget* table = list(name);
+        if (lists == Lists::Beside) {
+            body->addWidget(table);
+            continue;
+        }
+        // Dense rows, so that a sheet's few strikes show whole in a third of the graph's height.
+        table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 4);
+        table->setFixedHeight(GraphScreen::kPictureHeight / 3 - 4);
+        stack->addWidget(table);
+    }
+    if (stack) body->addLayout(stack);
     layout->addLayout(body);
 }
 

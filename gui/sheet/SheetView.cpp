@@ -2,6 +2,7 @@
 
 #include "frame/Form.h"
 #include "frame/Named.h"
+#include "frame/SpareWidth.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -102,9 +103,9 @@ QTableWidget* ladder() {
     grid->verticalHeader()->setDefaultSectionSize(18);
     grid->horizontalHeader()->setMinimumSectionSize(20);
     grid->setSelectionMode(QAbstractItemView::SingleSelection);
-    // The columns as wide as the sheet sets them, the last taking what is left; a figure wider
-    // than its column shows whole on hover.
-    grid->horizontalHeader()->setStretchLastSection(true);
+    // The columns as wide as the sheet sets them, the room left shared among them; a figure
+    // wider than its column shows whole on hover.
+    spreadSpareWidth(*grid);
     QFont font = grid->font();
     font.setPointSizeF(font.pointSizeF() - 1);
     grid->setFont(font);

@@ -2,6 +2,7 @@
 
 #include "frame/ButtonRow.h"
 #include "frame/Named.h"
+#include "frame/SpareWidth.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -22,6 +23,8 @@ TradeTrackerView::TradeTrackerView() {
 TrailView::TrailView() {
     auto* table = named<QTableWidget>("va1");
     table->setMinimumSize(560, 240);
+    // The room beside the columns goes to all of them, so that the trade's date shows whole.
+    spreadSpareWidth(*table);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(table);
     layout->addLayout(buttonRow({"Command1", "Command3", "Command2"}));

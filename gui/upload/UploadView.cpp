@@ -11,6 +11,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <string_view>
+
 namespace tallimark {
 
 UploadView::UploadView() {
@@ -18,8 +20,11 @@ UploadView::UploadView() {
     for (const auto& [label, name] : {std::pair{"Symbol", "TxtSymbol"},
                                       {"Description", "TxtDesc"},
                                       {"Market Price", "TxtMktPrice"},
-                                      {"Expiry", "TxtExpDtN"}})
-        fields->addRow(label, named<QLineEdit>(name));
+                                      {"Expiry", "TxtExpDtN"}}) {
+        auto* field = named<QLineEdit>(name);
+        if (std::string_view(name) == "TxtMktPrice") field->setAlignment(Qt::AlignRight); // a figure
+        fields->addRow(label, field);
+    }
     auto* file = new QHBoxLayout;
     auto* path = named<QLineEdit>("TxtFileNm");
     path->setMinimumWidth(320);

@@ -103,7 +103,7 @@ private slots:
         QCOMPARE(widget<QPushButton>("cmdGo")->text(), "&Go");
         QCOMPARE(view->windowTitle(), "Sample Screen");
 
-        sample->setText("lblNote", "changed");
+        sample->setText("lblNote", "changed F & O && &Go"); // an "&" before a blank stands as written
         sample->setForeColor("txtName", RGB(255, 0, 0));
         sample->setLocked("txtName", true);
         sample->setEnabled("cmdGo", false);
@@ -115,7 +115,7 @@ private slots:
         sample->setCaption("Renamed");
         sample->flush();
 
-        QCOMPARE(widget<QLabel>("lblNote")->text(), "changed");
+        QCOMPARE(widget<QLabel>("lblNote")->text(), "changed F && O && &Go");
         QCOMPARE(widget<QLineEdit>("txtName")->palette().color(QPalette::Text), QColor(255, 0, 0));
         QVERIFY(widget<QLineEdit>("txtName")->isReadOnly());
         QVERIFY(!widget<QPushButton>("cmdGo")->isEnabled());

@@ -1,7 +1,9 @@
 // The position file screen as the desk uses it: a name typed into the file dialog, the date
-// typed, the file written with the real button; the span request's button is not shown.
+// typed, the file written with the real button; the span request's button is not shown; Esc
+// closes it.
 #include "GuiDesk.h"
 
+#include "frame/MDIForm1.h"
 #include "margin/FrmCreatePon.h"
 
 #include <QFileDialog>
@@ -47,6 +49,17 @@ private slots:
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(file.readAll().contains("<created>20261120</created>\r\n"));
+    }
+
+    void escClosesTheScreenInTheFrame() {
+        test::GuiDesk desk;
+        desk.app.screens().get<MDIForm1>().show();
+        Form& form = desk.app.screens().get<FrmCreatePon>();
+        form.show();
+        auto* date = desk.ui.viewOf(form)->findChild<QLineEdit*>("DTPDate");
+        date->setFocus();
+        QTest::keyClick(date, Qt::Key_Escape);
+        QVERIFY(!form.visible());
     }
 };
 

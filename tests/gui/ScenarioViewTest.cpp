@@ -9,6 +9,7 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTableWidget>
 #include <QtTest>
 
@@ -80,6 +81,22 @@ private slots:
         QVERIFY(pixels(picture, QColor(255, 0, 0)).size() < 20);
         QVERIFY(pixels(picture, QColor(0, 0, 128)).size() > 100);
         QVERIFY(desk->boxes.empty());
+    }
+
+    void theLauncherRunsTheKindChosenLast() {
+        test::kSavedSheets[0].save(desk->app.store());
+        QWidget* sheet = desk->ui.viewOf(
+            test::openSheet(desk->app, SheetKind::Stock, test::kStockSymbol, test::kStockDesc));
+        QTest::mouseClick(child<QPushButton>(sheet, "Toolbar1(8)"), Qt::LeftButton);
+        QWidget* launcher = desk->ui.viewOf(desk->app.screens().get("FrmListGraph"));
+        auto* profit = child<QRadioButton>(launcher, "Option1");
+        auto* greek = child<QRadioButton>(launcher, "Option2");
+        QTest::mouseClick(greek, Qt::LeftButton);
+        QTest::mouseClick(profit, Qt::LeftButton);
+        QVERIFY(profit->isChecked() && !greek->isChecked());
+        QTest::mouseClick(child<QPushButton>(launcher, "CmdRun"), Qt::LeftButton);
+        QVERIFY(desk->app.screens().get("FrmNewGraph").visible());
+        QVERIFY(!desk->app.screens().get("FrmNewGraphGreek").visible());
     }
 };
 

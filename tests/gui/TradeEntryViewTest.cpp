@@ -1,9 +1,11 @@
 // The trade entry dialogs as the desk uses them: figures typed, Tab and Enter and Esc pressed,
-// choices made on the option buttons and the lists, and what the opener finds afterwards.
+// choices made on the option buttons and the lists, and what the opener finds afterwards; the
+// trade trail's delete mark ticked by mouse and Space.
 #include "GuiDesk.h"
 
 #include "tracker/FrmOption.h"
 #include "tracker/FrmOption_New.h"
+#include "tracker/FrmTrail.h"
 #include "tracker/FrmUnderlying.h"
 
 #include <QComboBox>
@@ -11,6 +13,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableWidget>
 #include <QtTest>
 
 using namespace tallimark;
@@ -140,6 +143,28 @@ private slots:
         QCOMPARE(rs["Strike"].number(), 17000.0);
         QCOMPARE(rs["CP"].text(), "P");
         QCOMPARE(rs["Units"].number(), 10.0);
+    }
+
+    void aTradesDeleteMarkIsATickBoxTurnedByMouseAndSpace() {
+        desk->app.store().execute(
+            "insert into DummyTracker (Symbol, InDesc, Strike, CP, Units, Traded, TradeDt) "
+            "values ('RILK2026', 'Nov', 980, 'C', 10, 20, cdate('20-Nov-2026'))");
+        FrmTrail& trail = desk->app.screens().get<FrmTrail>();
+        trail.Strike = "980.00";
+        trail.CP = "C";
+        trail.Symbol = "RILK2026";
+        trail.InDesc = "Nov";
+        test::whileModal(trail, [&](QWidget& dialog) {
+            auto* list = child<QTableWidget>(dialog, "va1");
+            QTableWidgetItem* mark = list->item(0, FrmTrail::kMarkCol - 1);
+            QCOMPARE(mark->text(), QString());
+            QCOMPARE(mark->checkState(), Qt::Unchecked);
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(mark).center());
+            QCOMPARE(trail.grid("va1").text(1, FrmTrail::kMarkCol), "1");
+            QCOMPARE(list->item(0, FrmTrail::kMarkCol - 1)->checkState(), Qt::Checked);
+            QTest::keyClick(list, Qt::Key_Space);
+            QCOMPARE(trail.grid("va1").text(1, FrmTrail::kMarkCol), "0");
+        });
     }
 };
 
