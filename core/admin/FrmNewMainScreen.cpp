@@ -215,6 +215,14 @@ void FrmNewMainScreen::twoContract() {
         refresh[n] = item(r, kRefreshDate);
         ++n;
     }
+    // Fewer than two ticked rows would read the type of a sheet nobody chose and stop on the
+    // empty answer; the desk is told what the comparison needs instead.
+    if (n < symbol.size()) {
+        ui().msgBox({"Please select two Scripts from the grid to compare.", "Data Error", MsgButtons::Ok,
+                     MsgIcon::Information});
+        setFocus(kList);
+        return;
+    }
     auto typeOf = [this, &symbol, &desc](size_t k) {
         Recordset rs = app().store().query("select InType from trans where inSymbol = " + q(symbol[k]) +
                                            " and InDesc = " + q(desc[k]));
