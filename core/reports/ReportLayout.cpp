@@ -183,15 +183,26 @@ private:
         const double labelW = doc_.pageWidth() * 0.55, valueW = doc_.pageWidth() * 0.25;
         for (const auto& s : lines) {
             if (s.source.empty()) {
+                // A section's heading goes to the next page with its first line rather than alone.
+                if (y_ + heightOf(LineStyle::Heading) + heightOf(LineStyle::Text) >
+                    doc_.pageHeight() - kFooterSpace)
+                    newPage();
                 put(make(LineStyle::Heading, {{fill(s.label, r), 0, doc_.pageWidth()}}));
                 continue;
             }
             const std::string figure = source(s.source, r);
-            put(make(
-                s.total ? LineStyle::Total : LineStyle::Text,
-                {{fill(s.label, r), 0, labelW},
-                 {figure.empty() ? s.missing : figureText(figure, s.format), labelW, valueW, Align::Right}}));
+            put(make(s.total ? LineStyle::Total : LineStyle::Text,
+                     {{fill(s.label, r), 0, labelW},
+                      {unset(s, figure) ? s.missing : figureText(figure, s.format), labelW, valueW,
+                       Align::Right}}));
         }
+    }
+
+    // A figure that may be missing is missing when empty or zero: the script master keeps a limit
+    // left blank as 0.
+    static bool unset(const StatementLine& s, const std::string& figure) {
+        double v = 0;
+        return figure.empty() || (!s.missing.empty() && readNumber(figure, v) && v == 0);
     }
 
     // Places a line, starting a page with its headings when the line would not fit.
