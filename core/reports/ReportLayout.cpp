@@ -144,8 +144,16 @@ private:
             if (col.total)
                 texts[c] = groupedFigure(sums[c], isNumberFormat(col.format) ? col.format : figure::kMoney);
         }
-        if (!texts.empty() && texts[0].empty()) texts[0] = caption;
-        return cellsLine(style, texts);
+        if (texts.empty() || !texts[0].empty()) return cellsLine(style, texts);
+        texts[0] = caption;
+        // The caption ("Total 18-11-2026") stretches over the empty cells after it, so it is not cut
+        // short; the cells stay, each column keeping its place.
+        ReportLine line = cellsLine(style, texts);
+        auto& cells = line.cells;
+        for (size_t c = 1; c < cells.size() && texts[c].empty(); ++c)
+            cells[0].width += cells[c].width;
+        cells[0].align = Align::Left;
+        return line;
     }
 
     void band(size_t r) {
