@@ -12,7 +12,7 @@ ReportColumn money(const char* caption, const char* source, bool total = true) {
     return {caption, source, 24, Align::Right, figure::kMoney, total};
 }
 ReportColumn units(const char* caption, const char* source, bool total = true) {
-    return {caption, source, 22, Align::Right, figure::kUnits, total};
+    return {caption, source, 26, Align::Right, figure::kUnits, total};
 }
 ReportColumn plain(const char* caption, const char* source, double width,
                    const char* format = figure::kText) {
@@ -189,7 +189,7 @@ ReportLayout futStkDetailLayout() {
              "from Tracker";
     l.orderBy = "order by TradeDt";
     l.headings = {kSheetHeading, kRangeHeading};
-    l.columns = {plain("Kind", "Kind", 28), units("Future units", "Funits"), units("Stock units", "Sunits"),
+    l.columns = {plain("Kind", "Kind", 34), units("Future units", "Funits"), units("Stock units", "Sunits"),
                  money("Traded", "Traded", false), money("Amount", "Amount")};
     l.bandBy = "TradeDt";
     l.emptyText = "No futures or stock trades in this date range.";
