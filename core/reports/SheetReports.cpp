@@ -98,13 +98,14 @@ ReportLayout fullSheetLayout() {
     l.headings = {kSheetHeading, "Market price {MktPrice}   Days {Days}   Expiry {ExpDt}   Date {Dt}"};
     const char* greek = "0.0000";
     l.columns = {
-        {"Strike", "Strike", 22, Align::Right, figure::kMoney},
+        {"Strike", "Strike", 20, Align::Right, figure::kMoney},
         plain("C/P", "CP", 10),
         {"Units", "Units", 16, Align::Right, figure::kUnits, true},
-        {"Traded", "Traded", 22, Align::Right, figure::kMoney},
+        {"Traded", "Traded", 20, Align::Right, figure::kMoney},
         {"Last", "Last", 22, Align::Right, figure::kMoney},
         {"Vol", "Vol", 14, Align::Right, "0.00"},
-        {"Delta", "Delta", 18, Align::Right, greek},
+        // A deep put's delta reaches -100.0000.
+        {"Delta", "Delta", 22, Align::Right, greek},
         money("Delta val", "DDeltaVal"),
         {"Theta", "Theta", 18, Align::Right, greek},
         money("Theta val", "DThetaVal"),
