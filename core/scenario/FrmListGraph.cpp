@@ -12,6 +12,9 @@ FrmListGraph::FrmListGraph(App& app) : Form(app, kName, "Graphical Analysis.....
     addControl(ControlKind::OptionButton, "Option2", "&Greek Analysis ");
     addControl(ControlKind::Button, "CmdRun", "&Run");
     addControl(ControlKind::Button, "CmdExit", "&Cancel");
+    // The two options share one frame: choosing one clears the other.
+    on("Option1", EventType::Click, [this](Event&) { setValue("Option2", false); });
+    on("Option2", EventType::Click, [this](Event&) { setValue("Option1", false); });
     on("CmdRun", EventType::Click, [this](Event&) { CmdRun(); });
     on("CmdExit", EventType::Click, [this](Event&) { requestClose(); });
     for (const std::string& name : {std::string("Form"), std::string("Option1"), std::string("Option2"),

@@ -2,13 +2,13 @@
 // scenario_figures.py, the two-contract comparison against sheet_figures.py, and the edges that
 // end in a box rather than a figure.
 #include "ScenarioFigures.h"
-#include "sheet/SheetDesk.h"
 #include "admin/FrmNewMainScreen.h"
 #include "scenario/FrmListGraph.h"
 #include "scenario/FrmNewGraph.h"
 #include "scenario/FrmNewGraphGreek.h"
 #include "scenario/FrmSimulation.h"
 #include "scenario/FrmTwoContract.h"
+#include "sheet/SheetDesk.h"
 
 #include <gtest/gtest.h>
 
@@ -125,6 +125,7 @@ TEST(Graphs, EdgesEndInTheRunTimesBoxAndNoCrash) {
         sheet.fire("Toolbar1(8)", EventType::Click);
         auto& launcher = desk.app.screens().get<FrmListGraph>();
         launcher.setValue(e.greek ? "Option2" : "Option1", true);
+        EXPECT_NE(launcher.control("Option1").value, launcher.control("Option2").value) << "one frame";
         launcher.fire("CmdRun", EventType::Click);
         std::string shown;
         for (const std::string& t : desk.boxTexts())
