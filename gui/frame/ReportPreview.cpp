@@ -27,6 +27,8 @@ void showReportPreview(const ReportDocument& doc, QWidget* parent) {
     QObject::connect(dialog, &QPrintPreviewDialog::paintRequested, dialog,
                      [pages, printer](QPrinter* target) { render::paintReport(*pages, *target); });
     dialog->show();
+    // The keys (Esc closes, the arrows turn pages) reach the preview without a click into it first.
+    dialog->activateWindow();
 }
 
 } // namespace tallimark
