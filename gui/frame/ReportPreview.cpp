@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 #include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QScreen>
 
@@ -26,6 +27,8 @@ void showReportPreview(const ReportDocument& doc, QWidget* parent) {
     // The printer lives as long as the dialog that paints on it.
     QObject::connect(dialog, &QPrintPreviewDialog::paintRequested, dialog,
                      [pages, printer](QPrinter* target) { render::paintReport(*pages, *target); });
+    // A page's width fills the view: an upright A4 page fitted whole is too small to read.
+    if (auto* view = dialog->findChild<QPrintPreviewWidget*>()) view->fitToWidth();
     dialog->show();
     // The keys (Esc closes, the arrows turn pages) reach the preview without a click into it first.
     dialog->activateWindow();
