@@ -97,6 +97,11 @@ private:
             const auto it = data_.values.find(lower(src.substr(1)));
             return it == data_.values.end() ? std::string() : it->second;
         }
+        if (data_.rows.empty()) {
+            for (size_t c = 0; c < data_.sheetColumns.size(); ++c)
+                if (lower(data_.sheetColumns[c]) == lower(src)) return data_.sheetRow[c].textOrEmpty();
+            return {};
+        }
         if (row >= data_.rows.size()) return {};
         for (size_t c = 0; c < data_.columns.size(); ++c)
             if (lower(data_.columns[c]) == lower(src)) return data_.rows[row][c].textOrEmpty();

@@ -115,6 +115,7 @@ ReportLayout fullSheetLayout() {
         money("Vega val", "DVegaVal"),
     };
     l.emptyText = "The sheet holds no open positions.";
+    l.sheetTable = "PortfolioMast";
     l.summary = balancesAndScenarios();
     l.summary.insert(l.summary.end(), {
                                           section("Futures, stock and expenses"),
