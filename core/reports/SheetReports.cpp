@@ -237,7 +237,8 @@ ReportLayout callSummaryDataLayout(const char* title, const char* table) {
 ReportLayout futStkDataLayout(bool detail) {
     std::vector<ReportColumn> columns = {units("Future units", "Funits"), units("Stock units", "Sunits")};
     if (detail) {
-        columns.insert(columns.begin(), plain("", "", 20));
+        // Room for the day total's caption, "Total 19-11-2026".
+        columns.insert(columns.begin(), plain("", "", 34));
         columns.push_back(money("Traded", "Traded", false));
         return workTableLayout("Future / Stock Detail", "FutStkSumDet", columns, "TradeDt");
     }
