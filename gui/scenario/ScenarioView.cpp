@@ -95,11 +95,29 @@ QGridLayout* fields(Form& form, const std::set<std::string>& placed) {
     return grid;
 }
 
-// The labels that are no field's caption, then the options and buttons.
-QHBoxLayout* row(Form& form, bool labels) {
+// The simulation's column names over its table's columns, each date under the column it dates;
+// empty for the other screens.
+QGridLayout* columnHeads(Form& form, std::set<std::string>& placed) {
+    if (!form.hasControl("lblIntrinsic")) return nullptr;
+    auto* grid = new QGridLayout;
+    const char* const heads[2][3] = {{"Label1", "Label2", "Label3"},
+                                     {nullptr, "lblIntrinsic", "lblSimulation"}};
+    for (int r = 0; r < 2; ++r)
+        for (int c = 0; c < 3; ++c)
+            if (const char* name = heads[r][c]) {
+                grid->addWidget(named<QLabel>(name), r, c, Qt::AlignCenter);
+                placed.insert(name);
+            }
+    for (int c = 0; c < 3; ++c)
+        grid->setColumnStretch(c, 1);
+    return grid;
+}
+
+// The labels that are no field's caption and not placed yet, then the options and buttons.
+QHBoxLayout* row(Form& form, bool labels, const std::set<std::string>& placed = {}) {
     auto* line = new QHBoxLayout;
     for (const std::string& name : form.controlOrder()) {
-        if (!form.hasControl(name)) continue;
+        if (!form.hasControl(name) || placed.count(name)) continue;
         const ControlKind kind = form.control(name).kind;
         if (labels && kind == ControlKind::Label && !isCaption(name))
             line->addWidget(named<QLabel>(name.c_str()));
@@ -132,8 +150,10 @@ ScenarioView::ScenarioView(Form& form) {
     QGridLayout* figures = comparison(form, placed);
     layout->addLayout(fields(form, placed));
     if (figures) layout->addLayout(figures);
-    layout->addLayout(row(form, true));
+    QGridLayout* heads = columnHeads(form, placed);
+    layout->addLayout(row(form, true, placed));
     layout->addLayout(row(form, false));
+    if (heads) layout->addLayout(heads);
     auto* body = new QHBoxLayout;
     if (auto* screen = dynamic_cast<PictureScreen*>(&form))
         for (const std::string& name : form.controlOrder())
