@@ -234,8 +234,12 @@ void FrmNewMainScreen::twoContract() {
         ui().msgBox({"Selected Types of Portfolios not same"});
         return;
     }
-    // Only stock sheets are compared.
-    if (first != "S") return;
+    // Only stock sheets are compared; the desk is told rather than left with nothing happening.
+    if (first != "S") {
+        ui().msgBox({"The 2-Contract comparison takes stock sheets only.", "Data Error", MsgButtons::Ok,
+                     MsgIcon::Information});
+        return;
+    }
     Form& form = app().screens().get("FrmTwoContract");
     if (auto* comparison = dynamic_cast<TwoContractScreen*>(&form)) {
         comparison->Symbol1 = symbol[0];
