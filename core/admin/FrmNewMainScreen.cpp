@@ -215,6 +215,14 @@ void FrmNewMainScreen::twoContract() {
         refresh[n] = item(r, kRefreshDate);
         ++n;
     }
+    // Fewer than two ticked rows would read the type of a sheet nobody chose and stop on the
+    // empty answer; the desk is told what the comparison needs instead.
+    if (n < symbol.size()) {
+        ui().msgBox({"Please select two Scripts from the grid to compare.", "Data Error", MsgButtons::Ok,
+                     MsgIcon::Information});
+        setFocus(kList);
+        return;
+    }
     auto typeOf = [this, &symbol, &desc](size_t k) {
         Recordset rs = app().store().query("select InType from trans where inSymbol = " + q(symbol[k]) +
                                            " and InDesc = " + q(desc[k]));
@@ -226,8 +234,12 @@ void FrmNewMainScreen::twoContract() {
         ui().msgBox({"Selected Types of Portfolios not same"});
         return;
     }
-    // Only stock sheets are compared.
-    if (first != "S") return;
+    // Only stock sheets are compared; the desk is told rather than left with nothing happening.
+    if (first != "S") {
+        ui().msgBox({"The 2-Contract comparison takes stock sheets only.", "Data Error", MsgButtons::Ok,
+                     MsgIcon::Information});
+        return;
+    }
     Form& form = app().screens().get("FrmTwoContract");
     if (auto* comparison = dynamic_cast<TwoContractScreen*>(&form)) {
         comparison->Symbol1 = symbol[0];

@@ -6,6 +6,8 @@ namespace tallimark::vberr {
     switch (number) {
     case InvalidCall:
         throw VbError(number, "Invalid procedure call or argument");
+    case SubscriptOutOfRange:
+        throw VbError(number, "Subscript out of range");
     case Overflow:
         throw VbError(number, "Overflow");
     case DivisionByZero:

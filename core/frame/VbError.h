@@ -20,6 +20,7 @@ private:
 namespace vberr {
 inline constexpr long InvalidCall = 5;
 inline constexpr long Overflow = 6;
+inline constexpr long SubscriptOutOfRange = 9;
 inline constexpr long DivisionByZero = 11;
 inline constexpr long TypeMismatch = 13;
 inline constexpr long InvalidUseOfNull = 94;

@@ -14,7 +14,6 @@ class Ui;
 
 namespace vberr {
 inline constexpr long OutOfMemory = 7;
-inline constexpr long SubscriptOutOfRange = 9;
 inline constexpr long DiskFull = 61;
 inline constexpr long InputPastEndOfFile = 62;
 inline constexpr long PermissionDenied = 70;

@@ -97,6 +97,11 @@ private:
             const auto it = data_.values.find(lower(src.substr(1)));
             return it == data_.values.end() ? std::string() : it->second;
         }
+        if (data_.rows.empty()) {
+            for (size_t c = 0; c < data_.sheetColumns.size(); ++c)
+                if (lower(data_.sheetColumns[c]) == lower(src)) return data_.sheetRow[c].textOrEmpty();
+            return {};
+        }
         if (row >= data_.rows.size()) return {};
         for (size_t c = 0; c < data_.columns.size(); ++c)
             if (lower(data_.columns[c]) == lower(src)) return data_.rows[row][c].textOrEmpty();
@@ -144,8 +149,16 @@ private:
             if (col.total)
                 texts[c] = groupedFigure(sums[c], isNumberFormat(col.format) ? col.format : figure::kMoney);
         }
-        if (!texts.empty() && texts[0].empty()) texts[0] = caption;
-        return cellsLine(style, texts);
+        if (texts.empty() || !texts[0].empty()) return cellsLine(style, texts);
+        texts[0] = caption;
+        // The caption ("Total 18-11-2026") stretches over the empty cells after it, so it is not cut
+        // short; the cells stay, each column keeping its place.
+        ReportLine line = cellsLine(style, texts);
+        auto& cells = line.cells;
+        for (size_t c = 1; c < cells.size() && texts[c].empty(); ++c)
+            cells[0].width += cells[c].width;
+        cells[0].align = Align::Left;
+        return line;
     }
 
     void band(size_t r) {
@@ -183,15 +196,26 @@ private:
         const double labelW = doc_.pageWidth() * 0.55, valueW = doc_.pageWidth() * 0.25;
         for (const auto& s : lines) {
             if (s.source.empty()) {
+                // A section's heading goes to the next page with its first line rather than alone.
+                if (y_ + heightOf(LineStyle::Heading) + heightOf(LineStyle::Text) >
+                    doc_.pageHeight() - kFooterSpace)
+                    newPage();
                 put(make(LineStyle::Heading, {{fill(s.label, r), 0, doc_.pageWidth()}}));
                 continue;
             }
             const std::string figure = source(s.source, r);
-            put(make(
-                s.total ? LineStyle::Total : LineStyle::Text,
-                {{fill(s.label, r), 0, labelW},
-                 {figure.empty() ? s.missing : figureText(figure, s.format), labelW, valueW, Align::Right}}));
+            put(make(s.total ? LineStyle::Total : LineStyle::Text,
+                     {{fill(s.label, r), 0, labelW},
+                      {unset(s, figure) ? s.missing : figureText(figure, s.format), labelW, valueW,
+                       Align::Right}}));
         }
+    }
+
+    // A figure that may be missing is missing when empty or zero: the script master keeps a limit
+    // left blank as 0.
+    static bool unset(const StatementLine& s, const std::string& figure) {
+        double v = 0;
+        return figure.empty() || (!s.missing.empty() && readNumber(figure, v) && v == 0);
     }
 
     // Places a line, starting a page with its headings when the line would not fit.

@@ -57,6 +57,9 @@ struct ReportLayout {
     // Once, after the table and its totals: figures of the first row and the formula values.
     std::vector<StatementLine> summary;
     std::string emptyText = "No rows were selected."; // what a run without rows says
+    // When the selection gives no row: the table whose row of the run's sheet (its Symbol and
+    // Descr values) gives the headings and the summary their figures all the same.
+    std::string sheetTable;
 };
 
 // What a run hands to its layout: the selected rows and the named formula values.
@@ -65,7 +68,9 @@ struct ReportData {
     std::vector<std::string> columns;
     std::vector<std::vector<Value>> rows;
     std::map<std::string, std::string> values; // keys in lower case
-    std::string printed;                       // the date of printing, shown in the footer
+    std::vector<std::string> sheetColumns;     // the sheet's row, read when no row was selected
+    std::vector<Value> sheetRow;
+    std::string printed; // the date of printing, shown in the footer
 };
 
 // A number in the grouped form of a figure format ("#,##0.00"): lakhs and crores.

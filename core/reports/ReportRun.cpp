@@ -64,6 +64,16 @@ ReportData reportData(Store& store, const ReportLayout& layout, const ReportRun&
         data.rows.push_back(std::move(row));
     }
     data.values = run.values();
+    if (data.rows.empty() && !layout.sheetTable.empty()) {
+        Recordset sheet =
+            store.query("select * from " + layout.sheetTable + " where Symbol = " + q(data.values["symbol"]) +
+                        " and Descr = " + q(data.values["descr"]));
+        if (!sheet.eof())
+            for (size_t c = 0; c < sheet.fieldCount(); ++c) {
+                data.sheetColumns.push_back(sheet.fieldName(c));
+                data.sheetRow.push_back(sheet.cell(0, c));
+            }
+    }
     return data;
 }
 

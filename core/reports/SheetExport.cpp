@@ -6,6 +6,8 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <initializer_list>
+#include <map>
 
 namespace tallimark {
 
@@ -38,6 +40,45 @@ std::string csvLine(const std::vector<std::string>& cells) {
     return line + "\r\n";
 }
 
+// The sheet's figures that stand in tables on the screen, where a column's caption alone ("$ Value",
+// "(U)") or no caption names them, take their row and column in the spreadsheet: "Delta $ Value".
+const std::map<std::string, std::string>& tableCaptions() {
+    static const std::map<std::string, std::string> captions = [] {
+        std::map<std::string, std::string> names{{"TxtContract", "Lot"},
+                                                 {"TxtPremium", "Premium"},
+                                                 {"TxtComm", "Comm"},
+                                                 {"TxtEquity", "Equity"},
+                                                 {"TxtBalance", "Balance"}};
+        using Names = std::initializer_list<const char*>;
+        auto table = [&names](Names rows, Names cols, std::initializer_list<Names> fields) {
+            auto row = rows.begin();
+            for (const Names& line : fields) {
+                auto col = cols.begin();
+                for (const char* field : line)
+                    names[field] = std::string(*row) + " " + *col++;
+                ++row;
+            }
+        };
+        table({"Future", "Cash", "Net"}, {"Lots", "Trade"},
+              {{"TxtFutLots", "TxtFutTrade"},
+               {"TxtCashLots", "TxtCashTrade"},
+               {"TxtFut_trdNF", "TxtFut_trdAmt"}});
+        table({"Delta", "Gamma", "Vega", "Theta"}, {"$ Value", "Contracts", "Hedge", "Points"},
+              {{"TxtDelVal", "TxtDelCon", "TxtDelHed", "TxtDelPts"},
+               {"TxtGamVal", "TxtGamCon", "TxtGamHed", "TxtGamPts"},
+               {"TxtVegaVal", "TxtVegaConn", "TxtVegaHed", "TxtVegaPts"},
+               {"TxtTheVal", "TxtThetaCon", "TxtTheHed", "TxtThePts"}});
+        table({"Cash", "Future", "Option"}, {"(U)", "(R)"},
+              {{"TxtCashU", "TxtCashR"}, {"TxtFutU", "TxtFutR"}, {"TxtOptU", "TxtOptR"}});
+        table({"Sheet", "Call", "Put"}, {"Delta", "Gamma", "Vega", "Theta"},
+              {{"TxtTotDel", "TxtTotGamma", "TxtTotVega", "TxtTotTheta"},
+               {"TxtCallDelta", "TxtCallGamma", "TxtCallVega", "TxtCallTheta"},
+               {"TxtPutDelta", "TxtPutGamma", "TxtPutVega", "TxtPutTheta"}});
+        return names;
+    }();
+    return captions;
+}
+
 } // namespace
 
 std::string sheetCsv(Form& sheet) {
@@ -47,7 +88,11 @@ std::string sheetCsv(Form& sheet) {
         const Control& c = sheet.control(name);
         if (c.kind != ControlKind::TextBox || !c.visible) continue;
         const std::string label = "Label_" + name;
-        out += csvLine({sheet.hasControl(label) ? Trim(sheet.text(label)) : name, c.text});
+        const auto named = tableCaptions().find(name);
+        out += csvLine({named != tableCaptions().end() ? named->second
+                        : sheet.hasControl(label)      ? Trim(sheet.text(label))
+                                                       : name,
+                        c.text});
     }
     for (const std::string& gridName : sheet.gridNames()) {
         const Grid& g = sheet.grid(gridName);

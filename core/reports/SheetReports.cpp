@@ -12,7 +12,7 @@ ReportColumn money(const char* caption, const char* source, bool total = true) {
     return {caption, source, 24, Align::Right, figure::kMoney, total};
 }
 ReportColumn units(const char* caption, const char* source, bool total = true) {
-    return {caption, source, 22, Align::Right, figure::kUnits, total};
+    return {caption, source, 26, Align::Right, figure::kUnits, total};
 }
 ReportColumn plain(const char* caption, const char* source, double width,
                    const char* format = figure::kText) {
@@ -98,13 +98,14 @@ ReportLayout fullSheetLayout() {
     l.headings = {kSheetHeading, "Market price {MktPrice}   Days {Days}   Expiry {ExpDt}   Date {Dt}"};
     const char* greek = "0.0000";
     l.columns = {
-        {"Strike", "Strike", 22, Align::Right, figure::kMoney},
+        {"Strike", "Strike", 20, Align::Right, figure::kMoney},
         plain("C/P", "CP", 10),
         {"Units", "Units", 16, Align::Right, figure::kUnits, true},
-        {"Traded", "Traded", 22, Align::Right, figure::kMoney},
+        {"Traded", "Traded", 20, Align::Right, figure::kMoney},
         {"Last", "Last", 22, Align::Right, figure::kMoney},
         {"Vol", "Vol", 14, Align::Right, "0.00"},
-        {"Delta", "Delta", 18, Align::Right, greek},
+        // A deep put's delta reaches -100.0000.
+        {"Delta", "Delta", 22, Align::Right, greek},
         money("Delta val", "DDeltaVal"),
         {"Theta", "Theta", 18, Align::Right, greek},
         money("Theta val", "DThetaVal"),
@@ -114,6 +115,7 @@ ReportLayout fullSheetLayout() {
         money("Vega val", "DVegaVal"),
     };
     l.emptyText = "The sheet holds no open positions.";
+    l.sheetTable = "PortfolioMast";
     l.summary = balancesAndScenarios();
     l.summary.insert(l.summary.end(), {
                                           section("Futures, stock and expenses"),
@@ -189,7 +191,7 @@ ReportLayout futStkDetailLayout() {
              "from Tracker";
     l.orderBy = "order by TradeDt";
     l.headings = {kSheetHeading, kRangeHeading};
-    l.columns = {plain("Kind", "Kind", 28), units("Future units", "Funits"), units("Stock units", "Sunits"),
+    l.columns = {plain("Kind", "Kind", 34), units("Future units", "Funits"), units("Stock units", "Sunits"),
                  money("Traded", "Traded", false), money("Amount", "Amount")};
     l.bandBy = "TradeDt";
     l.emptyText = "No futures or stock trades in this date range.";
@@ -235,7 +237,8 @@ ReportLayout callSummaryDataLayout(const char* title, const char* table) {
 ReportLayout futStkDataLayout(bool detail) {
     std::vector<ReportColumn> columns = {units("Future units", "Funits"), units("Stock units", "Sunits")};
     if (detail) {
-        columns.insert(columns.begin(), plain("", "", 20));
+        // Room for the day total's caption, "Total 19-11-2026".
+        columns.insert(columns.begin(), plain("", "", 34));
         columns.push_back(money("Traded", "Traded", false));
         return workTableLayout("Future / Stock Detail", "FutStkSumDet", columns, "TradeDt");
     }

@@ -24,7 +24,12 @@ FrmNewGraphGreek::FrmNewGraphGreek(App& app)
     const char* const captions[] = {"&Delta", "&Theta", "&Vega", "&Gamma"};
     for (int k = 0; k < 4; ++k) {
         addControl(ControlKind::OptionButton, kOptions[k], captions[k]);
-        on(kOptions[k], EventType::Click, [this, k](Event&) { greekChosen(k + 1); });
+        on(kOptions[k], EventType::Click, [this, k](Event&) {
+            // The four options share one frame: the chosen one clears the others.
+            for (int other = 0; other < 4; ++other)
+                if (other != k) setValue(kOptions[other], false);
+            greekChosen(k + 1);
+        });
     }
     addControl(ControlKind::Button, "Command1", "Greek &Simulation");
     on("Command1", EventType::Click, [this](Event&) { showTable(); });

@@ -15,7 +15,7 @@ constexpr double kTickFrom = 0.8; // the short tick left of the axis runs from h
 
 // The list's rows 1 to GraphCount of a column, read with Val. An empty list has no first row.
 std::vector<double> columnValues(const Grid& list, int col, int GraphCount) {
-    if (GraphCount < 1 || GraphCount > list.maxRows()) vberr::raise(9);
+    if (GraphCount < 1 || GraphCount > list.maxRows()) vberr::raise(vberr::SubscriptOutOfRange);
     std::vector<double> v;
     v.reserve(static_cast<size_t>(GraphCount));
     for (int i = 1; i <= GraphCount; ++i)

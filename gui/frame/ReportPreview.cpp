@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QPointer>
 #include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QScreen>
 
@@ -27,6 +28,8 @@ void showReportPreview(const ReportDocument& doc, QWidget* parent) {
     // The printer lives as long as the dialog that paints on it.
     QObject::connect(dialog, &QPrintPreviewDialog::paintRequested, dialog,
                      [pages, printer](QPrinter* target) { render::paintReport(*pages, *target); });
+    // A page's width fills the view: an upright A4 page fitted whole is too small to read.
+    if (auto* view = dialog->findChild<QPrintPreviewWidget*>()) view->fitToWidth();
     // The preview takes the keyboard, so that Esc closes it, and gives it back to the window it
     // was asked from, with or without a window manager to hand it over.
     QObject::connect(dialog, &QDialog::finished, dialog, [back = QPointer<QWidget>(parent)] {

@@ -196,6 +196,8 @@ TEST(MainScreen, TwoContractWantsTwoSheetsOfOneType) {
     MainDesk d;
     auto& comparison = d.app.screens().get<test::TwoContractStandIn>();
     d.list.setChecked(1, true);
+    d.m.fire("CmdTwoContract", EventType::Click);
+    EXPECT_EQ(d.takeBoxes(), std::vector<std::string>{"Please select two Scripts from the grid to compare."});
     d.list.setChecked(3, true);
     d.m.fire("CmdTwoContract", EventType::Click);
     EXPECT_EQ(d.takeBoxes(), std::vector<std::string>{"Selected Types of Portfolios not same"});

@@ -157,8 +157,12 @@ TEST(PrintOption, EachChoiceRunsItsReportWithItsRowsTotalsAndValues) {
     desk.app.store().execute("insert into PortfolioMast(Symbol, Descr, MktPrice, Days, ExpDt) "
                              "values ('ABCX2026', 'NOV', 10, 7, cdate('30-11-2026'))");
     desk.app.session().g_strSymbol = "ABCX2026";
+    // Limits left blank in the script master are kept as 0.
+    desk.app.store().execute("insert into ScriptMast(ScrCode, Limit_Cr, First_Gamma, Week_Gamma) "
+                             "values ('ABC', 0, '0', '0')");
     expectInOrder(print(desk, 2, 0, true, from, to),
-                  {"Sheet ABCX2026   NOV", "The sheet holds no open positions.", "Future/Stock units|0",
+                  {"Sheet ABCX2026   NOV", "Market price 10   Days 7   Expiry 30-11-2026   Date ",
+                   "The sheet holds no open positions.", "Future/Stock units|0",
                    "Limit (crores)|not set for this script", "Last gamma|not set for this script"});
     desk.app.session().g_strDesc = "DEC";
     EXPECT_EQ(print(desk, 2, 0, true, from, to).back().rfind("Error in PrintRecords1 procedure: ", 0), 0u);

@@ -32,6 +32,9 @@ TEST(SheetExport, BothSheetsWriteTheirFieldsAndLadderWithFiguresAsNumbers) {
         const std::string price =
             "\"" + d.s.text("Label_TxtMktPrice") + "\"," + (kind == SheetKind::Stock ? "1010" : "6050");
         EXPECT_NE(std::find(lines.begin(), lines.end(), price), lines.end()) << price;
+        // A figure of a table on the screen takes its row's name with its column's.
+        const std::string delta = "\"Delta $ Value\"," + d.s.text("TxtDelVal");
+        EXPECT_NE(std::find(lines.begin(), lines.end(), delta), lines.end()) << delta;
         // The ladder follows a blank line: its headings, then a line per row holding text.
         const auto blank = std::find(lines.begin(), lines.end(), "");
         ASSERT_NE(blank, lines.end());

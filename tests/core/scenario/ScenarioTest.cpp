@@ -125,6 +125,7 @@ TEST(Graphs, EdgesEndInTheRunTimesBoxAndNoCrash) {
         sheet.fire("Toolbar1(8)", EventType::Click);
         auto& launcher = desk.app.screens().get<FrmListGraph>();
         launcher.setValue(e.greek ? "Option2" : "Option1", true);
+        EXPECT_NE(launcher.control("Option1").value, launcher.control("Option2").value) << "one frame";
         launcher.fire("CmdRun", EventType::Click);
         std::string shown;
         for (const std::string& t : desk.boxTexts())
