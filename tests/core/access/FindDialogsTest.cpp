@@ -82,38 +82,6 @@ TEST(FrmSeek, EscOrAnEmptySetGiveNothing) {
     EXPECT_TRUE(d.ui.boxes().empty());
 }
 
-TEST(FrmSeek, ColumnsShareTheWidthAThirdToTwoThirds) {
-    // A grid of 60 characters: 33% is 19.8 and 67% is 40.2 (by hand).
-    struct Case {
-        const char* statement;
-        std::vector<double> widths;
-    } cases[] = {
-        {"SELECT SCRCODE FROM SCRIPTMAST", {60}},
-        {kScripts, {19.8, 40.2}},
-        {"SELECT SCRCODE, SCRNAME, DESCR FROM SCRIPTMAST", {19.8, 40.2, 8}},
-    };
-    for (const Case& c : cases) {
-        LookupDesk d;
-        std::vector<double> widths;
-        std::vector<std::string> headings;
-        d.seek(c.statement, [&](FrmSeek& s) {
-            const Grid& g = s.grid("MSHFlexGrid1");
-            for (int col = 1; col <= g.maxCols(); ++col) {
-                widths.push_back(g.column(col).width);
-                headings.push_back(g.column(col).heading);
-            }
-            EXPECT_EQ(g.maxRows(), 5);
-            if (g.maxCols() > 1) {
-                EXPECT_EQ(g.text(4, 2), "") << "a null shows empty";
-            }
-        });
-        ASSERT_EQ(widths.size(), c.widths.size()) << c.statement;
-        for (size_t i = 0; i < widths.size(); ++i)
-            EXPECT_DOUBLE_EQ(widths[i], c.widths[i]) << c.statement << " column " << i + 1;
-        EXPECT_EQ(headings.front(), "ScrCode") << "the name the store declares";
-    }
-}
-
 TEST(FrmSeek, ABrokenStatementReachesTheCaller) {
     LookupDesk d;
     EXPECT_THROW(d.seek("SELECT * FROM NoSuchTable", [](FrmSeek&) {}), StoreError);
@@ -199,23 +167,6 @@ TEST(Search, TheSearchColumnIsChosenInTheCombo) {
         s.fire("cmd_ok", EventType::Click);
     });
     EXPECT_EQ(got, (std::vector<std::string>{"BHEL", "bharat heavy"}));
-}
-
-TEST(Search, AClickedRowShowsItsValueAndStaysCurrent) {
-    LookupDesk d;
-    d.lookup(kScripts, [](search& s) {
-        Grid& g = s.grid("DB1");
-        g.activeRow = 4;
-        Event click{EventType::Click};
-        click.row = 4;
-        click.col = 1;
-        s.fire("DB1", click);
-        EXPECT_EQ(s.text("txt_search"), "BPCL");
-        EXPECT_EQ(s.currentRow(), 4);
-        pressKey(s, "txt_search", 'P'); // the shown text is what the next search looks for: none before
-        EXPECT_EQ(s.currentRow(), 4);
-        pressKey(s, "txt_search", keys::Escape);
-    });
 }
 
 TEST(Search, NumbersAreSearchedAsTheyRead) {

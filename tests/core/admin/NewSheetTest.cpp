@@ -235,16 +235,6 @@ TEST(NewSheet, RefusalsNameTheFaultAndLeaveTheStoreAsItWas) {
     }
 }
 
-TEST(NewSheet, AHandTypedSymbolIsTakenInCapitals) {
-    NewSheetDesk d;
-    d.f.setText("TxtInSymbol", "abk2026");
-    d.fill("TYPED For x", "100");
-    d.f.setText("TxtRateDiff", "1");
-    d.save();
-    EXPECT_EQ(d.transText("InSymbol", "TYPED For x"), "ABK2026");
-    EXPECT_EQ(test::typeChar(d.f, "TxtInSymbol", 'q').keyAscii, 'Q');
-}
-
 TEST(NewSheet, FieldsCheckAndFormatWhenLeft) {
     NewSheetDesk d;
     struct Case {

@@ -46,19 +46,6 @@ bool shownScreen(App& app, const char* name) {
 
 } // namespace
 
-TEST(SheetCommands, TheMenusPressTheToolbarsKeys) {
-    // The toolbar's captions are read on screen (SheetViewTest).
-    CommandDesk d;
-    RiskSheet& s = d.stock();
-    EXPECT_EQ(s.text("mnuoption"), "&Option              ALT+O");
-    EXPECT_FALSE(s.hasControl("mnucash")) << "Cash has no menu entry";
-
-    s.fire("mnuGraph1", EventType::Click);
-    EXPECT_TRUE(shownScreen(d.app, "FrmListGraph"));
-    s.fire("mnuprint", EventType::Click);
-    EXPECT_TRUE(shownScreen(d.app, "FrmPrintOption"));
-}
-
 TEST(SheetCommands, AltLettersOpenTheScreensOfTheirSheetKind) {
     struct Case {
         char letter;
