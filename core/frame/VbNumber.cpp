@@ -160,6 +160,19 @@ std::string UCase(std::string_view text) {
     return s;
 }
 
+std::string LCase(std::string_view text) {
+    std::string s(text);
+    for (char& c : s)
+        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return s;
+}
+
+std::string Mid(std::string_view text, size_t start, long long length) {
+    if (length < 0) throw VbError(vberr::InvalidCall, "Invalid procedure call or argument");
+    if (start > text.size()) return {};
+    return std::string(text.substr(start - 1, static_cast<size_t>(length)));
+}
+
 namespace vb {
 
 double checked(double result) {

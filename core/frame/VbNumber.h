@@ -38,6 +38,9 @@ std::string Str(double x);
 // Trim: leading and trailing blanks removed.
 std::string Trim(std::string_view text);
 std::string UCase(std::string_view text);
+std::string LCase(std::string_view text);
+// Mid(text, start, length) with 1-based columns; a negative length is an invalid call.
+std::string Mid(std::string_view text, size_t start, long long length);
 
 // Checked arithmetic for the formulas: the faults the desk's run-time raised.
 namespace vb {

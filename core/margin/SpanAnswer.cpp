@@ -57,13 +57,6 @@ const std::string& SpanLines::whole() const {
 
 namespace {
 
-// Mid(text, start, length) with 1-based columns; a negative length is an invalid call.
-std::string Mid(const std::string& text, size_t start, long long length) {
-    if (length < 0) throw VbError(vberr::InvalidCall, "Invalid procedure call or argument");
-    if (start > text.size()) return {};
-    return text.substr(start - 1, static_cast<size_t>(length));
-}
-
 // The fixed-column test: the word stands at this column of the line.
 bool At(const std::string& line, size_t column, std::string_view word) {
     return line.size() >= column - 1 + word.size() && line.compare(column - 1, word.size(), word) == 0;

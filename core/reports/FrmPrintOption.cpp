@@ -11,10 +11,6 @@ namespace tallimark {
 
 namespace {
 
-std::string Mid(const std::string& s, size_t start, size_t length) {
-    return start - 1 < s.size() ? s.substr(start - 1, length) : std::string();
-}
-
 void clearSlots(ReportRun& run, size_t from, size_t to) {
     for (size_t slot = from; slot <= to; ++slot)
         run.setFormula(slot, "");

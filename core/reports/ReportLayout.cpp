@@ -31,12 +31,6 @@ double heightOf(LineStyle s) {
 constexpr double kFooterSpace = 10; // the footer stands below the body
 constexpr double kGap = 3;          // between statements, and under the headings
 
-std::string lower(std::string s) {
-    for (char& c : s)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return s;
-}
-
 bool isNumberFormat(const std::string& f) {
     return !f.empty() && (f[0] == '#' || f[0] == '0');
 }
@@ -94,17 +88,17 @@ private:
     std::string source(const std::string& src, size_t row) const {
         if (src.empty()) return {};
         if (src[0] == '@') {
-            const auto it = data_.values.find(lower(src.substr(1)));
+            const auto it = data_.values.find(LCase(src.substr(1)));
             return it == data_.values.end() ? std::string() : it->second;
         }
         if (data_.rows.empty()) {
             for (size_t c = 0; c < data_.sheetColumns.size(); ++c)
-                if (lower(data_.sheetColumns[c]) == lower(src)) return data_.sheetRow[c].textOrEmpty();
+                if (LCase(data_.sheetColumns[c]) == LCase(src)) return data_.sheetRow[c].textOrEmpty();
             return {};
         }
         if (row >= data_.rows.size()) return {};
         for (size_t c = 0; c < data_.columns.size(); ++c)
-            if (lower(data_.columns[c]) == lower(src)) return data_.rows[row][c].textOrEmpty();
+            if (LCase(data_.columns[c]) == LCase(src)) return data_.rows[row][c].textOrEmpty();
         return {};
     }
     std::string figureText(const std::string& text, const std::string& format) const {

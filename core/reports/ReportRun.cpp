@@ -9,21 +9,11 @@
 
 namespace tallimark {
 
-namespace {
-
-std::string lower(std::string s) {
-    for (char& c : s)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return s;
-}
-
-} // namespace
-
 std::string ReportRun::name() const {
     const size_t slash = reportFile.find_last_of("\\/");
     std::string base = slash == std::string::npos ? reportFile : reportFile.substr(slash + 1);
     const size_t dot = base.rfind('.');
-    if (dot != std::string::npos && lower(base.substr(dot)) == ".rpt") base.erase(dot);
+    if (dot != std::string::npos && LCase(base.substr(dot)) == ".rpt") base.erase(dot);
     return base;
 }
 
@@ -42,7 +32,7 @@ std::map<std::string, std::string> ReportRun::values() const {
         if (value.size() >= 2 && (value.front() == '\'' || value.front() == '"') &&
             value.back() == value.front())
             value = value.substr(1, value.size() - 2);
-        out[lower(Trim(f.substr(0, eq)))] = value;
+        out[LCase(Trim(f.substr(0, eq)))] = value;
     }
     return out;
 }

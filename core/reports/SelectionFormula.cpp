@@ -1,6 +1,7 @@
 #include "reports/SelectionFormula.h"
 
 #include "frame/Store.h"
+#include "frame/VbNumber.h"
 
 #include <cctype>
 #include <cstdio>
@@ -16,12 +17,6 @@ struct Token {
     Tok kind;
     std::string text;
 };
-
-std::string lower(std::string s) {
-    for (char& c : s)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return s;
-}
 
 bool isNameChar(char c) {
     return std::isalnum(static_cast<unsigned char>(c)) || c == '_';
@@ -63,7 +58,7 @@ std::vector<Token> tokenize(std::string_view f) {
             size_t j = i;
             while (j < f.size() && isNameChar(f[j]))
                 ++j;
-            out.push_back({Tok::Word, lower(std::string(f.substr(i, j - i)))});
+            out.push_back({Tok::Word, LCase(std::string(f.substr(i, j - i)))});
             i = j;
         } else if (c == '<' || c == '>' || c == '=') {
             std::string op(1, c);
