@@ -119,7 +119,12 @@ std::string sheetCsv(Form& sheet) {
 
 void exportSheet(Form& sheet, const std::string& suggestedName) {
     Ui& ui = sheet.ui();
-    const auto path = ui.fileDialog({true, "Export the sheet", "CSV files (*.csv)|*.csv", "", suggestedName});
+    FileDialog dialog;
+    dialog.save = true;
+    dialog.title = "Export the sheet";
+    dialog.filter = "CSV files (*.csv)|*.csv";
+    dialog.fileName = suggestedName;
+    const auto path = ui.fileDialog(dialog);
     if (!path) return;
     const std::string csv = sheetCsv(sheet);
     std::ofstream file(*path, std::ios::binary);

@@ -52,7 +52,10 @@ FrmUpload::FrmUpload(App& app, SheetKind kind)
     });
     on("TxtSymbol", EventType::LostFocus, [this](Event&) { TxtSymbol_LostFocus(); });
     on("Command1", EventType::Click, [this](Event&) {
-        if (auto path = ui().fileDialog({false, "Open", kFileFilter, {}, {}})) setText("TxtFileNm", *path);
+        FileDialog dialog;
+        dialog.title = "Open";
+        dialog.filter = kFileFilter;
+        if (auto path = ui().fileDialog(dialog)) setText("TxtFileNm", *path);
     });
     on("CmdUpload", EventType::Click, [this](Event&) { CmdUpload_Click(); });
     on("CmdDelete", EventType::Click, [this](Event&) {

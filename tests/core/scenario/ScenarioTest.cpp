@@ -57,7 +57,7 @@ TEST(TwoContract, TwoSheetsOfOneScriptAddUpAndGraphAtTheFirstsStrikes) {
                                       {"PortfolioMast", "Descr"},
                                       {"PortfolioDet", "Descr"},
                                       {"Tracker", "InDesc"}})
-        for (const std::string sql :
+        for (const std::string& sql :
              {std::string("create temp table c as select * from ") + table,
               std::string("update c set ") + desc + " = 'DEC'",
               std::string("insert into ") + table + " select * from c", std::string("drop table c")})
@@ -134,7 +134,9 @@ TEST(Graphs, EdgesEndInTheRunTimesBoxAndNoCrash) {
         Form& graph = e.greek ? static_cast<Form&>(desk.app.screens().get<FrmNewGraphGreek>())
                               : desk.app.screens().get<FrmNewGraph>();
         EXPECT_TRUE(graph.visible()) << e.what;
-        if (e.greek && !e.units) EXPECT_EQ(graph.grid("ListView1").text(18, 2), "0");
+        if (e.greek && !e.units) {
+            EXPECT_EQ(graph.grid("ListView1").text(18, 2), "0");
+        }
     }
 }
 
