@@ -143,18 +143,6 @@ private slots:
         QCOMPARE(second.activated, 3);
     }
 
-    void aClosedWindowHandsOverToTheOneUsedBeforeIt() {
-        QVERIFY(QTest::qWaitForWindowActive(window));
-        EmptyScreen list(desk->app, "FrmA", "List"), sheet(desk->app, "FrmB", "Sheet"),
-            entry(desk->app, "FrmC", "Entry");
-        for (EmptyScreen* screen : {&list, &sheet, &entry})
-            screen->show();
-        entry.hide();
-        QCOMPARE(window->mdiArea().currentSubWindow()->windowTitle(), "Sheet");
-        sheet.hide();
-        list.hide();
-    }
-
     void startUpLogsInAndShowsTheFrame() {
         test::GuiDesk fresh;
         QTimer::singleShot(0, [] {
