@@ -13,7 +13,6 @@
 #include "charges/FrmCashFlow.h"
 #include "charges/FrmCharges.h"
 #include "charges/FrmClosing.h"
-#include "frame/EmptyScreen.h"
 #include "frame/Form.h"
 #include "frame/MDIForm1.h"
 #include "margin/FrmCreatePon.h"
@@ -45,10 +44,6 @@ using Maker = std::function<std::unique_ptr<Form>(App&)>;
 
 template <class F> std::pair<const char*, Maker> entry() {
     return {F::kName, [](App& app) { return std::make_unique<F>(app); }};
-}
-
-std::pair<const char*, Maker> empty(const char* name, const char* caption) {
-    return {name, [name, caption](App& app) { return std::make_unique<EmptyScreen>(app, name, caption); }};
 }
 
 const std::vector<std::pair<const char*, Maker>>& registry() {

@@ -23,6 +23,7 @@ void App::openStore() {
     store_.reset();
     if (!lock_) lock_ = std::make_unique<StoreLock>(storeFile());
     store_ = Store::open(storeFile());
+    schema::upgrade(*store_);
     schema::keepWorkingLedgerInMemory(*store_);
 }
 

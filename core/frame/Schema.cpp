@@ -103,7 +103,8 @@ std::vector<Table> makeTables() {
           {"Delta", T::Double}, {"Dt", T::Date},         {"DumThVal", T::Double}, {"DeltaVal", T::Double},
           {"Theta", T::Double}, {"ThetaVal", T::Double}, {"Gamma", T::Double},    {"GammaVal", T::Double},
           {"Vega", T::Double},  {"VegaVal", T::Double},  {"Field2", T::Long},     {"Field1", T::Text}}});
-    t.push_back({"Tracker", trackerColumns()});
+    // The committed ledger takes its rows from the working ledger alone.
+    t.push_back({"Tracker", trackerColumns(), true});
     t.push_back({"DummyTracker", trackerColumns()});
     t.push_back({"UploadTracker", trackerColumns()});
     t.push_back({"FutOpt",
@@ -197,13 +198,17 @@ const char* const kIndexes[] = {
 
 // A date column may receive a plain date text ("23-11-2026", "23-Nov-2026 "); the store keeps
 // every date as "YYYY-MM-DD" so that it reads, compares and sorts as that date.
+std::string triggerName(const Table& t, const Column& c, const char* event) {
+    return t.name + "_" + c.name + "_" + event;
+}
+
 std::string dateTriggers(const Table& t, const Column& c) {
     const std::string when = " WHEN NEW." + c.name + " IS NOT NULL AND NEW." + c.name +
                              " NOT GLOB '[0-9][0-9][0-9][0-9]-[0-9][0-9]-[0-9][0-9]*'";
     const std::string body = " BEGIN UPDATE " + t.name + " SET " + c.name + " = cdate(NEW." + c.name +
                              ") WHERE rowid = NEW.rowid; END;";
-    return "CREATE TRIGGER " + t.name + "_" + c.name + "_ins AFTER INSERT ON " + t.name + when + body +
-           "CREATE TRIGGER " + t.name + "_" + c.name + "_upd AFTER UPDATE OF " + c.name + " ON " + t.name +
+    return "CREATE TRIGGER " + triggerName(t, c, "ins") + " AFTER INSERT ON " + t.name + when + body +
+           "CREATE TRIGGER " + triggerName(t, c, "upd") + " AFTER UPDATE OF " + c.name + " ON " + t.name +
            when + body;
 }
 
@@ -222,7 +227,7 @@ std::string tableDdl(const Table& t, bool temporary = false) {
         ddl += (i ? ", " : "") + t.columns[i].name + " " + typeName(t.columns[i].type);
     ddl += ");";
     for (const Column& c : t.columns)
-        if (c.type == T::Date) {
+        if (c.type == T::Date && !t.copiesOnly) {
             std::string triggers = dateTriggers(t, c);
             for (size_t at = 0; (at = triggers.find("CREATE TRIGGER", at)) != std::string::npos; at += 14)
                 triggers.replace(at, 7, create);
@@ -241,6 +246,15 @@ void createTables(Store& store) {
         ddl += std::string(i) + ";";
     ddl += "COMMIT;";
     store.executeNative(ddl);
+}
+
+void upgrade(Store& store) {
+    for (const Table& t : tables())
+        if (t.copiesOnly)
+            for (const Column& c : t.columns)
+                if (c.type == T::Date)
+                    store.executeNative("DROP TRIGGER IF EXISTS " + triggerName(t, c, "ins") +
+                                        ";DROP TRIGGER IF EXISTS " + triggerName(t, c, "upd"));
 }
 
 void keepWorkingLedgerInMemory(Store& store) {

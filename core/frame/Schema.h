@@ -20,6 +20,9 @@ struct Column {
 struct Table {
     std::string name;
     std::vector<Column> columns;
+    // Filled only by copies of rows from a table of its shape, whose dates are kept already:
+    // its date columns need no handling of their own, which would cost every copied row.
+    bool copiesOnly = false;
 };
 
 // Every table of the store with its columns in order.
@@ -31,6 +34,9 @@ inline constexpr const char* kFirstUserPassword = "tallimark";
 
 // Creates the tables, their indexes and date handling in an empty store.
 void createTables(Store& store);
+// Brings a store made by an earlier build to the tables of this one: the date handling of a table
+// filled by copies only goes.
+void upgrade(Store& store);
 // Makes a ready store file: the tables, the twelve months and the first user.
 void createReadyStore(const std::filesystem::path& file);
 

@@ -221,7 +221,10 @@ private:
     std::unordered_map<std::string, Entry, Hash, std::equal_to<>> entries_;
 };
 
-Store::Store(sqlite3* db) : db_(db), statements_(std::make_unique<StatementCache>(db)) {}
+Store::Store(sqlite3* db) : db_(db), statements_(std::make_unique<StatementCache>(db)) {
+    sqlite3_rollback_hook(
+        db_, [](void* store) { ++static_cast<Store*>(store)->undone_; }, this);
+}
 Store::~Store() {
     statements_.reset(); // every statement finalized before the connection can close
     sqlite3_close(db_);
@@ -293,6 +296,10 @@ long long Store::changes() const {
     return sqlite3_changes64(db_);
 }
 
+long long Store::changeStamp() const {
+    return sqlite3_total_changes64(db_) + undone_;
+}
+
 WriteGroup::WriteGroup(Store& store, Rows rows)
     : store_(store), active_(sqlite3_get_autocommit(store.handle()) != 0), working_(rows == Rows::Working) {
     if (!active_) return;
@@ -320,6 +327,7 @@ void AllOrNothing::done() {
 
 AllOrNothing::~AllOrNothing() {
     if (done_) return;
+    ++store_.undone_;
     sqlite3_exec(store_.handle(), "ROLLBACK TO all_or_nothing", nullptr, nullptr, nullptr);
     sqlite3_exec(store_.handle(), "RELEASE all_or_nothing", nullptr, nullptr, nullptr);
 }

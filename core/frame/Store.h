@@ -79,11 +79,16 @@ public:
     // Plain SQLite, not mapped: schema work of the store itself.
     void executeNative(std::string_view sql);
     long long changes() const;
+    // Differs from every earlier reading once any row may have changed: written, or put back by
+    // a rollback. What is worked out from rows may be kept while it stands.
+    long long changeStamp() const;
     sqlite3* handle() { return db_; }
 
 private:
+    friend class AllOrNothing;
     explicit Store(sqlite3* db);
     sqlite3* db_;
+    long long undone_ = 0; // rollbacks seen: they change rows without counting as changes
     std::unique_ptr<StatementCache> statements_;
 };
 

@@ -11,6 +11,8 @@
 #include <array>
 #include <exception>
 #include <functional>
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -114,11 +116,20 @@ public:
                   const std::string& TradeTime = {});
     void UpdateTracker();
     void ErrProcAddTracker();
-    // The series (strike, CP) of the ledger rows under `where`, in the order "select distinct
-    // strike, CP" lists them, each with its summed units and `amount` as the statements
-    // "select sum(units) ... where <where> and strike = <strike> and CP =<CP>" would give them.
-    void seriesSums(const std::string& where, const std::string& amount,
+    // The series (strike, CP) of the ledger rows under `key`, in the order "select distinct
+    // strike, CP" lists them, each with its summed units and amount as the statements
+    // "select sum(units) ... where <key> and strike = <strike> and CP =<CP>" would give them:
+    // AtLast sums units*last-units*traded, AtNextDay units*DumThVal-units*traded. With
+    // optionsOnly, the series of "CP <> 'S'" alone.
+    enum class SeriesAmount { AtLast, AtNextDay };
+    void seriesSums(const std::string& key, SeriesAmount amount, bool optionsOnly,
                     const std::function<void(double units, double amount)>& add);
+    // The option rows' sums of units*last, units*DumThVal and -units*delta/100 under `key`, as
+    // "select sum(...) from dummytracker where <key> and CP <> 'S'" gives each; null counts 0.
+    struct OptionTotals {
+        double last, nextDay, delta;
+    };
+    const OptionTotals& optionTotals(const std::string& key);
 
     // The commands of the toolbar, by the key of their button ("Save", "Option", ...).
     void Toolbar1_ButtonClick(const std::string& key);
@@ -261,7 +272,30 @@ private:
     void setDaysToExpiry(const VbDate& today);
     void copyWorkingRows();
 
+    // The ledger's sums as a refresh asks for them from several procedures: worked out in one
+    // walk of the sheet's index per kind and kept, per key, while no row changes.
+    struct LedgerSeries {
+        double units, atLast, atNextDay;
+        bool option;
+    };
+    struct LedgerTotals {
+        std::optional<std::vector<LedgerSeries>> series;
+        std::optional<OptionTotals> options;
+    };
+    LedgerTotals& ledgerTotals(const std::string& key);
+    std::vector<LedgerSeries> readSeries(const std::string& key);
+
+    // The statement texts UpdateTracker last wrote per series, and the store's change stamp
+    // after them (-1 while a write is under way).
+    struct WrittenSeries {
+        long long stamp = -1;
+        std::map<std::string, std::vector<std::string>> texts;
+    };
+
     SheetKind kind_;
+    WrittenSeries written_;
+    std::map<std::string, LedgerTotals> totals_;
+    long long totalsStamp_ = -1;
     pricing::StockEngine stock_;
     pricing::IndexEngine index_;
     bool settingPicker_ = false;

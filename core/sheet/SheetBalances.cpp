@@ -85,9 +85,7 @@ void RiskSheet::CalcDeltaNeutral1() {
     trapped("CalcDeltaNeutral1", [this] {
         // Units of the underlying to buy (positive) or sell so that the book carries no delta.
         const std::string key = sheetLedgerKey();
-        const double TotDelta = sumOrZero(
-            "select sum(-units*delta/100) as TotDelta from dummytracker where " + key + " and CP <> 'S'",
-            "TotDelta");
+        const double TotDelta = optionTotals(key).delta;
         const double TotStocks = sumOrZero(
             "select sum(units) as TotStocks from dummytracker where " + key + " and CP = 'S'", "TotStocks");
         // At expiry the stock sheet takes the ladder's own total, the tracker's deltas being stale.
@@ -112,14 +110,10 @@ void RiskSheet::ThetaBal() {
     trapped("ThetaBal", [this] {
         const std::string key = trimmedLedgerKey();
         // The option rows valued a day on.
-        const double TotLast =
-            Round(sumOrZero("select sum(units*DumThVal) as TotLast from dummytracker where " + key +
-                                " and CP <> 'S'",
-                            "TotLast"),
-                  2);
+        const double TotLast = Round(optionTotals(key).nextDay, 2);
         // A closed series adds its result at the next day's value.
         double ClosedAmt = 0;
-        seriesSums(key, "units*DumThVal-units*traded", [&](double units, double amount) {
+        seriesSums(key, SeriesAmount::AtNextDay, false, [&](double units, double amount) {
             if (units == 0) ClosedAmt += amount;
         });
         const double Tomorrow = amount("TxtComm") + amount("TxtPremium") + amount("TxtCashU") +

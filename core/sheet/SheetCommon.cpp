@@ -107,30 +107,6 @@ std::string RiskSheet::sqlNumber(const Value& value) {
     return value.isNull() ? "Null" : NumText(value.number());
 }
 
-void RiskSheet::seriesSums(const std::string& where, const std::string& amount,
-                           const std::function<void(double units, double amount)>& add) {
-    // One grouped walk of the sheet's index stands for two statements per series: the index gives
-    // the groups in the order the distinct series come, and each group's rows in the order its
-    // own statement sums them. A strike whose number text names another strike (beyond 15
-    // digits), or a series without a side, is summed by those statements as written.
-    Recordset rs =
-        app().store().query("select strike, CP, sum(units) as TotUnits, sum(" + amount +
-                            ") as TotAmt from dummytracker where " + where + " group by CP, strike");
-    for (; !rs.eof(); rs.moveNext()) {
-        const Value& strike = rs["strike"];
-        if (strike.isNull()) {
-            add(0, 0); // "strike = Null" matches no row
-        } else if (!rs["CP"].isNull() && CDbl(sqlNumber(strike)) == strike.number()) {
-            add(rs["TotUnits"].numberOrZero(), rs["TotAmt"].numberOrZero());
-        } else {
-            const std::string one =
-                where + " and strike = " + sqlNumber(strike) + " and CP =" + q(rs["CP"].textOrEmpty());
-            add(sumOrZero("select sum(units) as TotUnits from dummytracker where " + one, "TotUnits"),
-                sumOrZero("select sum(" + amount + ") as TotAmt from dummytracker where " + one, "TotAmt"));
-        }
-    }
-}
-
 double RiskSheet::sumOrZero(const std::string& sql, const char* column) {
     Recordset rs = app().store().query(sql);
     return rs.eof() ? 0 : rs[column].numberOrZero();

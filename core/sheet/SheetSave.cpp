@@ -163,7 +163,7 @@ void RiskSheet::AddMaster() {
 void RiskSheet::AddDetail() {
     trapped("AddDetail", [this] {
         const std::string Symbol = Trim(text("TxtSymbol"));
-        const std::string today = dateValue(Format(app().clock().today(), "DD-MMM-YYYY"));
+        const std::string today = Format(app().clock().today(), "DD-MMM-YYYY");
         auto number = [this](int row, int col) {
             const std::string t = Trim(cell(row, col));
             return t.empty() ? std::string("0") : NumText(col == 3 ? CLng(CDbl(t)) : CDbl(t));
@@ -172,21 +172,33 @@ void RiskSheet::AddDetail() {
         AllOrNothing step(store);
         store.execute("Delete from PortfolioDet where Symbol = " + q(Symbol) +
                       " and Descr = " + q(Trim(OwnDesc)));
+        // Each row's values go in through "?" marks, as their own texts in the statement would:
+        // one prepared statement serves the whole ladder.
+        std::string columns = "Symbol,Descr,Strike,CP,Units,Dt";
+        for (const char* c : kDetailColumns)
+            columns += std::string(",") + c;
+        const std::string marks = "?,?,?,?,?,cdate(?),?,?,?,?,?,?,?,?,?,?,?,?";
         const int last = lastLadderRow();
         for (int row = 2; row <= last; ++row) {
-            Columns det{{"Symbol", Symbol, true},   {"Descr", OwnDesc, true},  {"Strike", number(row, 1)},
-                        {"CP", cell(row, 2), true}, {"Units", number(row, 3)}, {"Dt", today}};
+            std::vector<std::string> values{Symbol,       OwnDesc,        number(row, 1),
+                                            cell(row, 2), number(row, 3), today};
             for (int col = 4; col <= 15; ++col)
-                det.push_back({kDetailColumns[col - 4], number(row, col)});
-            if (!isIndex()) {
-                // Field2 marks a row that holds a position: its units wear a side colour.
-                const auto fore = va1().cell(row, 3).fore;
-                const bool held = fore == kShortText || fore == kLongText;
-                det.push_back({"Field2", held ? "True" : "False"});
-                const std::string mark = Trim(cell(row, 16));
-                det.push_back({"Field1", mark.empty() ? "0" : cell(row, 16), true});
+                values.push_back(number(row, col));
+            for (int text : {0, 1, 3})
+                (void)q(values[text]); // a text the store refuses fails the insert itself
+            if (isIndex()) {
+                store.execute("insert into PortfolioDet (" + columns + ") values(" + marks + ")", values);
+                continue;
             }
-            store.execute(insertInto("PortfolioDet", det));
+            // Field2 marks a row that holds a position: its units wear a side colour.
+            const auto fore = va1().cell(row, 3).fore;
+            const bool held = fore == kShortText || fore == kLongText;
+            const std::string mark = Trim(cell(row, 16));
+            values.push_back(mark.empty() ? "0" : cell(row, 16));
+            (void)q(values.back());
+            store.execute("insert into PortfolioDet (" + columns + ",Field2,Field1) values(" + marks +
+                              (held ? ",True,?)" : ",False,?)"),
+                          values);
         }
         step.done();
     });

@@ -77,6 +77,10 @@ void RiskSheet::UpdateTracker() {
         (void)q(symbol);
         (void)q(OwnDesc);
         WriteGroup group(store, WriteGroup::Rows::Working);
+        // While no row has changed since the last of these writes, a series whose figures stand
+        // as then written would be written again to the same values: it is left as it is.
+        if (written_.stamp != store.changeStamp()) written_.texts.clear();
+        written_.stamp = -1;
         // A flat series is left out: its rows keep the values of its last open moment, from
         // which its realised result is worked out.
         const int last = lastLadderRow();
@@ -84,11 +88,27 @@ void RiskSheet::UpdateTracker() {
             if (Trim(cell(row, 3)).empty() || CLng(cell(row, 3)) == 0) continue;
             (void)q(cell(row, 2));
             // The figures go in as the statement's own texts would: prepared once, not per refresh.
+            std::vector<std::string> texts{number(cell(row, 5)),
+                                           number(cell(row, 6)),
+                                           number(cell(row, 7)),
+                                           number(cell(row, 8)),
+                                           symbol,
+                                           OwnDesc,
+                                           number(cell(row, 1)),
+                                           cell(row, 2)};
+            // Keyed as the statement finds rows: the side compares without regard to (ASCII) case.
+            std::string series = texts[6] + '\0' + texts[7];
+            for (char& c : series)
+                if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+            std::vector<std::string>& before = written_.texts[series];
+            if (before == texts) continue;
+            before.clear();
             store.execute("update dummytracker set [last] =?, [vol] = ?, [delta] = ? , [DumThVal] = ? where "
                           "[symbol] = ? and [indesc] = ? and [strike] = ? and [CP] = ?",
-                          {number(cell(row, 5)), number(cell(row, 6)), number(cell(row, 7)),
-                           number(cell(row, 8)), symbol, OwnDesc, number(cell(row, 1)), cell(row, 2)});
+                          texts);
+            before = std::move(texts);
         }
+        written_.stamp = store.changeStamp();
     });
 }
 

@@ -91,10 +91,9 @@ void RiskSheet::CalcROption() {
         [this] {
             double acc = 0;
             // Flat series only: the model value of their rows cancels, leaving the cash result.
-            seriesSums(trimmedLedgerKey() + (isIndex() ? " and CP<> 'S'" : " and CP <>'S'"),
-                       "units*last-units*traded", [&](double units, double amount) {
-                           if (CLng(units) == 0) acc += amount;
-                       });
+            seriesSums(trimmedLedgerKey(), SeriesAmount::AtLast, true, [&](double units, double amount) {
+                if (CLng(units) == 0) acc += amount;
+            });
             set("TxtOptR", Round(acc, 0));
         },
         " And No: ");
@@ -121,10 +120,7 @@ void RiskSheet::CalcRStock() {
 void RiskSheet::CalcOptionR() {
     trapped("CalcOptionR", [this] {
         // The present value of every option row, flat series included.
-        set("TxtOptU", Round(sumOrZero("select sum(units*last) as TotLast from dummytracker where " +
-                                           trimmedLedgerKey() + " and CP <> 'S'",
-                                       "TotLast"),
-                             0));
+        set("TxtOptU", Round(optionTotals(trimmedLedgerKey()).last, 0));
     });
 }
 

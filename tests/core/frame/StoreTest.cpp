@@ -73,6 +73,20 @@ TEST(ReadyStore, TrackerTablesShareOneShapeSoRowsCopyByPosition) {
     EXPECT_EQ(rs["TradeDt"].date(), VbDate::fromYmd(2026, 11, 23));
 }
 
+// The committed ledger is filled by copies of working rows alone, whose dates are kept already: a
+// store made with date handling on it loses that handling as it opens.
+TEST(ReadyStore, TheCommittedLedgerHasNoDateHandlingOfItsOwn) {
+    test::Desk desk;
+    const std::string triggers = "select count(*) from sqlite_master where type = 'trigger' and tbl_name = ";
+    EXPECT_EQ(count(desk.app.store(), triggers + "'Tracker'"), 0);
+    EXPECT_EQ(count(desk.app.store(), triggers + "'DummyTracker'"), 2);
+    desk.app.store().executeNative(
+        "CREATE TRIGGER Tracker_TradeDt_ins AFTER INSERT ON Tracker BEGIN SELECT 1; END");
+    desk.app.closeStore();
+    desk.app.openStore();
+    EXPECT_EQ(count(desk.app.store(), triggers + "'Tracker'"), 0);
+}
+
 TEST(StoreDialect, TheDesksSqlRunsOnTheStore) {
     test::Desk desk;
     Store& store = desk.app.store();
@@ -180,7 +194,7 @@ TEST(Store, AFigureInPlaceOfAMarkIsStoredAsItsTextInTheStatementWouldBe) {
     // the statement holding the figure's own text would store. Figures of every size and sign.
     test::Desk desk;
     Store& store = desk.app.store();
-    store.executeNative("create table F (k DOUBLE, x DOUBLE, y DOUBLE)");
+    store.executeNative("create table F (k DOUBLE, x DOUBLE, y DOUBLE, i INTEGER, j INTEGER)");
     std::mt19937_64 rng(11);
     WriteGroup group(store);
     for (int i = 0; i < 20000; ++i) {
@@ -189,6 +203,10 @@ TEST(Store, AFigureInPlaceOfAMarkIsStoredAsItsTextInTheStatementWouldBe) {
         store.execute("insert into F (k) values (" + k + ")");
         store.execute("update F set x = " + t + " where k = " + k);
         store.execute("update F set y = ? where k = ?", {t, k});
+        const std::string units = NumText(static_cast<double>(static_cast<int32_t>(rng())));
+        store.execute("update F set i = " + units + ", j = ? where k = ?", {units, k});
     }
-    EXPECT_EQ(count(store, "select count(*) from F where x = y and typeof(x) = typeof(y)"), 20000);
+    EXPECT_EQ(count(store, "select count(*) from F where x = y and typeof(x) = typeof(y) and i = j and "
+                           "typeof(i) = typeof(j)"),
+              20000);
 }

@@ -98,6 +98,20 @@ TEST(Ledger, HeldSeriesTakeTheLaddersValuesAndFlatOnesStayFrozen) {
         d.number("select count(*) from DummyTracker where " + sheet + " and Strike = 1020 and Last = 7"), 2)
         << "the closed series keeps the values of its last open moment";
     EXPECT_EQ(d.number("select Last from DummyTracker where InDesc = 'OTHER DESC'"), 1);
+    // A held series written before is written again once its rows have changed, by a statement
+    // or by a step undone.
+    const std::string held = sheet + " and Strike = 980 and CP = 'C'";
+    d.app.store().execute("update DummyTracker set Last = 1 where " + held);
+    d.s.UpdateTracker();
+    EXPECT_EQ(d.number("select min(Last) from DummyTracker where " + held), 46.83);
+    d.app.store().execute("update DummyTracker set Last = 1 where " + held);
+    {
+        AllOrNothing undone(d.app.store());
+        d.s.UpdateTracker();
+    }
+    EXPECT_EQ(d.number("select min(Last) from DummyTracker where " + held), 1);
+    d.s.UpdateTracker();
+    EXPECT_EQ(d.number("select min(Last) from DummyTracker where " + held), 46.83);
 }
 
 TEST(Ledger, CommittingReplacesTheSheetsTrades) {
