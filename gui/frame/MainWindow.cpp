@@ -4,10 +4,25 @@
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
 
 namespace tallimark {
+
+namespace {
+
+// The frame's accelerators (Ctrl+L, Ctrl+Shift+F) belong to the window as well as to its menus: they
+// keep working while an active screen's menu stands in the bar in place of the frame's.
+void keepAccelerators(QWidget& window, const QList<QAction*>& actions) {
+    for (QAction* action : actions)
+        if (const QMenu* menu = action->menu())
+            keepAccelerators(window, menu->actions());
+        else
+            window.addAction(action);
+}
+
+} // namespace
 
 MainWindow::MainWindow(Form& form) : mdiArea_(new QMdiArea) {
     setCentralWidget(mdiArea_);
@@ -18,6 +33,7 @@ MainWindow::MainWindow(Form& form) : mdiArea_(new QMdiArea) {
     mdiArea_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
     addMenus(form, *menuBar());
     frameMenus_ = menuBar()->actions();
+    keepAccelerators(*this, frameMenus_);
     statusBar();
     connect(mdiArea_, &QMdiArea::subWindowActivated, this, &MainWindow::showMenuOf);
     resize(1100, 760);

@@ -143,6 +143,19 @@ private slots:
         QCOMPARE(second.activated, 3);
     }
 
+    void theFramesAcceleratorsWorkWhileAScreensMenuStandsInTheBar() {
+        struct WithMenu : Probe<4> {
+            explicit WithMenu(App& app) : Probe<4>(app) { addControl(ControlKind::Menu, "mnuOwn", "&Own"); }
+        };
+        desk->app.screens().get<WithMenu>().show();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        QVERIFY(!window->menuBar()->actions().contains(menu("mnufile")));
+        QTest::keyClick(desk->ui.viewOf(desk->app.screens().get<WithMenu>()), Qt::Key_L, Qt::ControlModifier);
+        // The closing entry's menu answered: without a sheet open it says what it needs.
+        QCOMPARE(desk->boxes.size(), size_t(1));
+        QVERIFY(QString::fromStdString(desk->boxes[0].text).startsWith("Open a sheet first"));
+    }
+
     void startUpLogsInAndShowsTheFrame() {
         test::GuiDesk fresh;
         QTimer::singleShot(0, [] {
