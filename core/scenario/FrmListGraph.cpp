@@ -20,10 +20,15 @@ FrmListGraph::FrmListGraph(App& app) : Form(app, kName, "Graphical Analysis.....
     on("CmdExit", EventType::Click, [this](Event&) { requestClose(); });
     for (const std::string& name : {std::string("Form"), std::string("Option1"), std::string("Option2"),
                                     std::string("CmdRun"), std::string("CmdExit")})
-        on(name, EventType::KeyDown, [this](Event& e) {
-            if (e.keyCode != keys::Escape) return;
+        on(name, EventType::KeyDown, [this, name](Event& e) {
+            // Enter on a kind runs it, as Run does: the launcher is worked from the keyboard too.
+            const bool run = e.keyCode == keys::Enter && name.rfind("Option", 0) == 0;
+            if (e.keyCode != keys::Escape && !run) return;
             e.keyCode = 0;
-            requestClose();
+            if (run)
+                CmdRun();
+            else
+                requestClose();
         });
 }
 

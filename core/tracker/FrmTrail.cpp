@@ -145,8 +145,13 @@ FrmTradeTracker::FrmTradeTracker(App& app) : Form(app, kName, "Trade Trail....Ta
         if (e.index == 0) okClick();
     });
     for (const std::string& control : controlOrder())
-        on(control, EventType::KeyDown, [this](Event& e) {
+        on(control, EventType::KeyDown, [this, control](Event& e) {
             if (e.keyCode == keys::Escape) fire("Cmd(1)", EventType::Click);
+            // Enter on a kind takes it, as OK does: the chooser is worked from the keyboard too.
+            if (e.keyCode == keys::Enter && control.rfind("Option1", 0) == 0) {
+                e.keyCode = 0;
+                fire("Cmd(0)", EventType::Click);
+            }
         });
 }
 

@@ -28,7 +28,7 @@ TEST_F(UploadBatch, ADayFileIsUploadedCorrectedAndSaved) {
         "click FrmNewMainScreen.Cmd(1)\n" +
         upload + upload +
         // The trail of 980 C: its two saved trades and the two uploaded; the last one's units corrected.
-        "gridclick FrmPort5.va1 4 1\nclick FrmPort5.Toolbar1(5)\nclick FrmTradeTracker.Cmd(0)\n"
+        "gridclick FrmPort5.va1 4 1\nclick FrmPort5.Toolbar1(5)\nkey FrmTradeTracker.Option1(0) 13\n"
         "cell FrmTrail.va1 3 4 30\ncell FrmTrail.va1 4 4 30.9\ncell FrmTrail.va1 4 1 6\n"
         "click FrmTrail.Command3\nclick FrmTrail.Command2\nclick FrmPort5.Toolbar1(1)\n");
     ASSERT_EQ(r.exitCode, 0) << r.all();

@@ -94,7 +94,7 @@ private slots:
         QTest::mouseClick(greek, Qt::LeftButton);
         QTest::mouseClick(profit, Qt::LeftButton);
         QVERIFY(profit->isChecked() && !greek->isChecked());
-        QTest::mouseClick(child<QPushButton>(launcher, "CmdRun"), Qt::LeftButton);
+        QTest::keyClick(profit, Qt::Key_Return); // Enter on the kind chosen runs it
         QVERIFY(desk->app.screens().get("FrmNewGraph").visible());
         QVERIFY(!desk->app.screens().get("FrmNewGraphGreek").visible());
     }
