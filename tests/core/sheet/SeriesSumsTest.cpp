@@ -78,22 +78,3 @@ TEST(LedgerSums, SharedWalksSumAsTheirOwnStatements) {
         }
     }
 }
-
-// The sums are kept only while no row changes: a new row, or one put back by a step undone.
-TEST(LedgerSums, FollowEveryChangeOfTheLedger) {
-    test::SheetDesk d;
-    RiskSheet& s = d.openFresh();
-    auto addOption = [&](int units) {
-        d.addTrade("DummyTracker", "TCSK2026", "FRESH", "1000", "C", units, 10, {{"Last", "12"}});
-    };
-    addOption(2);
-    EXPECT_EQ(s.optionTotals(kKey).last, 24);
-    addOption(1);
-    EXPECT_EQ(s.optionTotals(kKey).last, 36);
-    {
-        AllOrNothing undone(d.app.store());
-        d.app.store().execute("update dummytracker set Last = 20");
-        EXPECT_EQ(s.optionTotals(kKey).last, 60);
-    }
-    EXPECT_EQ(s.optionTotals(kKey).last, 36);
-}
