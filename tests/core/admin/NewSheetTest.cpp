@@ -40,7 +40,7 @@ struct NewSheetDesk : test::AdminDesk {
 
 } // namespace
 
-TEST(NewSheet, TheSearchDialogGivesNameAndCodeOrClearsBoth) {
+TEST(NewSheet, TheSearchDialogGivesNameAndCodeOrClearsBothAndBlankChoicesAreNamed) {
     NewSheetDesk d;
     // The dialog lists the scripts by name: RELIANCE, then STATE BANK.
     d.ui.setModalRunner([](Form& dialog) {
@@ -59,10 +59,8 @@ TEST(NewSheet, TheSearchDialogGivesNameAndCodeOrClearsBoth) {
     EXPECT_EQ(d.f.text("TxtScriptNM"), "");
     EXPECT_EQ(d.f.ScrCode, "");
     EXPECT_TRUE(d.ui.boxes().empty());
-}
 
-TEST(NewSheet, BlankOrUnknownChoicesAreNamed) {
-    NewSheetDesk d;
+    // An unknown script in the combo clears the choice; blank choices are named.
     d.f.setText("DataCombo1", "RELIANCE");
     d.f.setText("TxtScriptNM", "RELIANCE");
     d.f.setText("DataCombo1", "NO SUCH SCRIPT");
@@ -70,6 +68,7 @@ TEST(NewSheet, BlankOrUnknownChoicesAreNamed) {
     EXPECT_EQ(d.f.text("TxtScriptNM"), "");
     d.f.setText("DataCombo1", "");
     d.f.moveFocus("Combo1");
+    d.f.setText("Combo1", "");
     d.f.moveFocus("TxtYear");
     EXPECT_EQ(d.boxLines(), (std::vector<std::string>{"Script Select|Pls Select the Script Name|none",
                                                       "Month Select|Pls Select the Month|none"}));
