@@ -61,11 +61,11 @@ TEST(Login, RefusalsSayWhoIsNotValidAndLogNobodyIn) {
         d.login.fire("cmdokcan(0)", EventType::Click);
         ASSERT_EQ(d.ui.boxes().size(), 1u) << c.password;
         EXPECT_TRUE(d.box().starts_with(c.box) && d.box().ends_with("|critical")) << d.box();
-        EXPECT_EQ(d.login.text("txt_user_name"), c.userAfter);
+        EXPECT_EQ(d.login.text("txt_user_name"), c.userAfter) << c.password;
         EXPECT_EQ(d.login.text("txt_password"), *c.userAfter ? c.password : "") << c.password;
         EXPECT_EQ(d.login.focused(), *c.userAfter ? "" : "txt_user_name") << c.password;
-        EXPECT_TRUE(d.login.visible());
-        EXPECT_EQ(d.app.session().g_UserName, "");
+        EXPECT_TRUE(d.login.visible()) << c.password;
+        EXPECT_EQ(d.app.session().g_UserName, "") << c.password;
     }
 }
 
@@ -87,8 +87,8 @@ TEST(Login, ChangingAPasswordNeedsAProvenAccountAndAKnownNewName) {
         d.type("ADMIN", c.pwd);
         d.login.fire("cmdchgpass", EventType::Click);
         if (c.newName) {
-            EXPECT_FALSE(d.login.control("cmdokcan(1)").enabled);
-            EXPECT_EQ(d.login.focused(), "txt_new_user_name");
+            EXPECT_FALSE(d.login.control("cmdokcan(1)").enabled) << c.newName;
+            EXPECT_EQ(d.login.focused(), "txt_new_user_name") << c.newName;
             d.login.setText("txt_new_user_name", c.newName);
             d.login.setText("txt_new_password", "r2");
             d.login.fire("cmdchgpass", EventType::Click);

@@ -49,7 +49,7 @@ TEST(Users, NewNumbersFromTheHighestCode) {
         for (const char* code : c.codes)
             d.addUser(code, std::string("U") + code);
         d.press(FrmUser::New);
-        EXPECT_EQ(d.f.text("TxtUserCode"), c.next);
+        EXPECT_EQ(d.f.text("TxtUserCode"), c.next) << c.next;
     }
 
     UserDesk d;

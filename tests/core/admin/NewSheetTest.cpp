@@ -171,7 +171,8 @@ TEST(NewSheet, FieldsCheckAndFormatWhenLeft) {
         EXPECT_EQ(d.f.text(c.field), c.shown) << c.field << " " << c.typed;
         EXPECT_EQ(d.boxLines(), c.box
                                     ? std::vector<std::string>{std::string("Entry Error|") + c.box + "|none"}
-                                    : std::vector<std::string>{});
+                                    : std::vector<std::string>{})
+            << c.field << " " << c.typed;
         // The focus stays in a refused field.
         EXPECT_EQ(d.f.focused(), c.box ? c.field : "TxtBStrike") << c.field << " " << c.typed;
     }

@@ -49,7 +49,8 @@ struct ScriptDesk : test::MastersDesk<FrmScriptMast> {
 
 } // namespace
 
-TEST(ScriptMast, SaveStoresEmptyFiguresAsZeroRefusedAddsLeaveTheStoreAndUndoOrExitLeave) {
+// Then Undo drops the typing, and Exit or Esc leave the screen.
+TEST(ScriptMast, AnAddStoresEmptyFiguresAsZeroAndARefusedOneLeavesTheStore) {
     ScriptDesk d;
     EXPECT_EQ(d.mask(), "1000011") << "the screen opens idle";
     d.add("acc", "ACC LTD", true, {{"TxtDesc", "Cement"}, {"TxtRate", "2.5"}, {"TxtEx_Margin", "5%"}});
