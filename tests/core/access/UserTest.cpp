@@ -35,32 +35,30 @@ struct UserDesk : test::MastersDesk<FrmUser> {
 
 TEST(Users, NewNumbersFromTheHighestCode) {
     struct Case {
-        bool emptied;
-        std::vector<const char*> codes; // besides ADMIN's "1"
+        const char* name;
+        std::vector<const char*> codes; // besides ADMIN's "1"; none: the table emptied
         const char* next;
+        std::vector<std::string> boxes; // none: the screen is adding
     } cases[] = {
-        {true, {}, "1"},
-        {false, {"7"}, "8"},
-        {false, {"9", "10"}, "10"}, // the codes are texts: "9" is higher than "10"
+        {"an empty table", {}, "1", {}},
+        {"one code", {"7"}, "8", {}},
+        {"codes are texts: 9 is higher than 10", {"9", "10"}, "10", {}},
+        {"a strange code stops the numbering",
+         {"X1"},
+         "",
+         {"Tallimark|Error in GetMaxID procedure: Type mismatch No: 13|none",
+          "Error in Renumbering|Could not find max Area Code for auto numbering|none"}},
     };
     for (const Case& c : cases) {
         UserDesk d;
-        if (c.emptied) d.app.store().execute("delete from Users");
+        if (c.codes.empty()) d.app.store().execute("delete from Users");
         for (const char* code : c.codes)
             d.addUser(code, std::string("U") + code);
         d.press(FrmUser::New);
-        EXPECT_EQ(d.f.text("TxtUserCode"), c.next) << c.next;
+        EXPECT_EQ(d.f.text("TxtUserCode"), c.next) << c.name;
+        EXPECT_EQ(d.boxLines(), c.boxes) << c.name;
+        EXPECT_EQ(d.mask(), c.boxes.empty() ? "0001101" : "1000011") << c.name;
     }
-
-    UserDesk d;
-    d.addUser("X1", "ODD");
-    d.press(FrmUser::New);
-    EXPECT_EQ(d.boxLines(),
-              (std::vector<std::string>{
-                  "Tallimark|Error in GetMaxID procedure: Type mismatch No: 13|none",
-                  "Error in Renumbering|Could not find max Area Code for auto numbering|none"}));
-    EXPECT_EQ(d.mask(), "1000011");
-    EXPECT_EQ(d.f.text("TxtUserCode"), "");
 }
 
 TEST(Users, SaveValidateRefusesAndTheScreenStays) {
