@@ -2,194 +2,92 @@
 #include "MastersDesk.h"
 
 #include "admin/FrmScriptMast.h"
-#include "admin/Frmnth.h"
 
 using namespace tallimark;
 
 namespace {
 
+using Typed = std::vector<std::pair<const char*, const char*>>;
+
 struct ScriptDesk : test::MastersDesk<FrmScriptMast> {
+    void type(const Typed& fields) {
+        for (const auto& [field, text] : fields)
+            f.setText(field, text);
+    }
     // New, the fields typed, Save. The code field is left for the name only when asked.
     void add(const std::string& code, const std::string& name, bool leaveCode = true,
-             std::vector<std::pair<const char*, const char*>> more = {}) {
+             const Typed& more = {}) {
         press(FrmScriptMast::New);
         f.setText("TxtSptCode", code);
         if (leaveCode) f.moveFocus("TxtSptName");
         f.setText("TxtSptName", name);
-        for (const auto& [field, text] : more)
-            f.setText(field, text);
+        type(more);
         press(FrmScriptMast::Save);
     }
-    std::string column(const std::string& code, const std::string& col) {
+    void find(int row) {
+        seekPicks(row);
+        press(FrmScriptMast::Find);
+    }
+    // The fields as shown and the row as stored, in the same order joined by "|".
+    std::string shown() const {
+        std::string t;
+        for (const char* field : {"TxtSptCode", "TxtSptName", "TxtDesc", "TxtRate", "TxtExpLimit", "TxtFWeek",
+                                  "TxtLastWeek", "TxtContract", "TxtEx_Margin"})
+            t += "|" + f.text(field);
+        return t.substr(1);
+    }
+    std::string row(const std::string& code) {
         Recordset rs = app.store().query("select * from ScriptMast where ScrCode = " + q(code));
-        return rs.eof() ? "<no row>" : rs[col].textOrEmpty();
+        if (rs.eof()) return "<no row>";
+        std::string t;
+        for (const char* column : {"ScrCode", "ScrName", "Descr", "RateDiff", "Limit_Cr", "First_Gamma",
+                                   "Week_Gamma", "Field2", "Field1"})
+            t += "|" + rs[column].textOrEmpty();
+        return t.substr(1);
     }
 };
 
 } // namespace
 
-TEST(ScriptMast, OpensIdleWithItsCaptions) {
+// Then Undo drops the typing, and Exit or Esc leave the screen.
+TEST(ScriptMast, AnAddStoresEmptyFiguresAsZeroAndARefusedOneLeavesTheStore) {
     ScriptDesk d;
-    EXPECT_EQ(d.f.caption(), "Script Master ...Tallimark");
-    EXPECT_EQ(d.mask(), "1000011");
-    // The access keys of the captions are the desk's way round the screen.
-    for (const auto& [control, caption] :
-         {std::pair{"LblSptCode", "Script &Code"}, {"LblFWeek", "&First Week"}, {"Cmd(6)", "E&xit"}})
-        EXPECT_EQ(d.f.text(control), caption) << control;
-    EXPECT_TRUE(d.f.control("TxtSptName").locked);
-}
-
-TEST(ScriptMast, NewUnlocksAndSaveStoresWithEmptyFiguresAsZero) {
-    ScriptDesk d;
-    d.press(FrmScriptMast::New);
-    EXPECT_EQ(d.mask(), "0001101");
-    EXPECT_EQ(d.f.mode, FrmScriptMast::Adding);
-    EXPECT_EQ(d.f.focused(), "TxtSptCode");
-    EXPECT_FALSE(d.f.control("TxtContract").locked);
-
-    d.f.setText("TxtSptCode", "acc");
-    d.f.setText("TxtSptName", "ACC LTD");
-    d.f.setText("TxtDesc", "Cement");
-    d.f.setText("TxtRate", "2.5");
-    d.f.setText("TxtEx_Margin", "5%");
-    d.press(FrmScriptMast::Save);
+    EXPECT_EQ(d.mask(), "1000011") << "the screen opens idle";
+    d.add("acc", "ACC LTD", true, {{"TxtDesc", "Cement"}, {"TxtRate", "2.5"}, {"TxtEx_Margin", "5%"}});
     EXPECT_TRUE(d.ui.boxes().empty()) << d.lastBox();
-
-    const std::pair<const char*, const char*> stored[] = {
-        {"ScrName", "ACC LTD"}, {"Descr", "Cement"}, {"RateDiff", "2.5"}, {"Limit_Cr", "0"},
-        {"First_Gamma", "0"},   {"Week_Gamma", "0"}, {"Field2", "0"},     {"Field1", "5%"}};
-    for (const auto& [col, value] : stored)
-        EXPECT_EQ(d.column("ACC", col), value) << col;
+    const std::string acc = "ACC|ACC LTD|Cement|2.5|0|0|0|0|5%";
+    EXPECT_EQ(d.row("ACC"), acc);
     // Reset: idle, locked and empty again.
-    EXPECT_EQ(d.f.mode, FrmScriptMast::Idle);
     EXPECT_EQ(d.mask(), "1000011");
-    EXPECT_EQ(d.f.text("TxtRate"), "");
+    EXPECT_EQ(d.shown(), "||||||||");
     EXPECT_TRUE(d.f.control("TxtRate").locked);
-}
 
-TEST(ScriptMast, TheCodeIsUpperCasedOnlyOnLeavingTheField) {
     struct Case {
-        bool leave;
-        const char* stored;
-    } cases[] = {{true, "BHEL"}, {false, "bhel"}};
-    for (const Case& c : cases) {
-        ScriptDesk d;
-        d.add("bhel", "BHARAT HEAVY", c.leave);
-        Recordset rs = d.app.store().query("select ScrCode from ScriptMast");
-        ASSERT_FALSE(rs.eof());
-        EXPECT_EQ(rs["ScrCode"].text(), c.stored);
-    }
-}
-
-TEST(ScriptMast, EnterMovesOnAndEscHides) {
-    ScriptDesk d;
-    d.press(FrmScriptMast::New);
-    d.f.setText("TxtSptCode", "infy");
-    test::pressKey(d.f, "TxtSptCode", keys::Enter);
-    EXPECT_EQ(d.f.focused(), "TxtSptName");
-    EXPECT_EQ(d.f.text("TxtSptCode"), "INFY");
-    test::pressKey(d.f, "TxtSptName", keys::Escape);
-    EXPECT_FALSE(d.f.visible());
-}
-
-TEST(ScriptMast, RefusedSavesShowTheFailureAndLeaveTheStore) {
-    struct Case {
-        const char* name;
-        const char* code;
-        std::vector<std::pair<const char*, const char*>> more;
-    } cases[] = {
+        const char *name, *code;
+        Typed more;
+    } refused[] = {
         {"the same code", "ACC", {}},
         {"the same code in other letters", "acc", {}},
         {"a quote in the name", "NEW", {{"TxtSptName", "DR REDDY'S"}}},
         {"a quote in the margin", "NEW", {{"TxtEx_Margin", "5'"}}},
         {"a rate that is no number", "NEW", {{"TxtRate", "abc"}}},
     };
-    for (const Case& c : cases) {
-        ScriptDesk d;
-        d.add("ACC", "ACC LTD");
+    for (const Case& c : refused) {
+        d.ui.clearBoxes();
         d.add(c.code, "SECOND", false, c.more);
         EXPECT_EQ(d.boxLines(), std::vector<std::string>{"Error|Failed in adding record|critical"}) << c.name;
         EXPECT_EQ(d.count("ScriptMast"), 1) << c.name;
-        EXPECT_EQ(d.column("ACC", "ScrName"), "ACC LTD") << c.name;
+        EXPECT_EQ(d.row("ACC"), acc) << c.name;
         EXPECT_EQ(d.mask(), "1000011") << c.name << ": the screen resets all the same";
     }
-}
 
-TEST(ScriptMast, FindFillsTheFieldsAndOffersModifyAndDelete) {
-    ScriptDesk d;
-    d.app.store().execute(
-        "insert into ScriptMast (ScrCode, ScrName, RateDiff, Limit_Cr, First_Gamma, Field2) "
-        "values ('ACC', 'ACC LTD', 1.5, 20, '100', 250)");
-    d.app.store().execute("insert into ScriptMast (ScrCode, ScrName) values ('BHEL', 'BHARAT HEAVY')");
-    d.seekPicks(1);
-    d.press(FrmScriptMast::Find);
-    const std::pair<const char*, const char*> shown[] = {
-        {"TxtSptCode", "ACC"},  {"TxtSptName", "ACC LTD"}, {"TxtRate", "1.5"},
-        {"TxtExpLimit", "20"},  {"TxtFWeek", "100"},       {"TxtLastWeek", ""},
-        {"TxtContract", "250"}, {"TxtDesc", ""},           {"TxtEx_Margin", ""}};
-    for (const auto& [field, text] : shown)
-        EXPECT_EQ(d.f.text(field), text) << field;
-    EXPECT_EQ(d.mask(), "1110011");
-    EXPECT_TRUE(d.f.control("TxtSptName").locked);
-    EXPECT_EQ(d.app.screens().find(FrmSeek::kName), nullptr);
+    // A code saved without leaving its field keeps its letters.
+    d.ui.clearBoxes();
+    d.add("bhel", "BHARAT HEAVY", false);
+    EXPECT_EQ(d.row("BHEL"), "bhel|BHARAT HEAVY||0|0|0|0|0|");
 
-    // Esc in the list leaves what is on the screen.
-    d.seekPicks(0);
-    d.press(FrmScriptMast::Find);
-    EXPECT_EQ(d.f.text("TxtSptCode"), "ACC");
-    EXPECT_TRUE(d.ui.boxes().empty()) << d.lastBox();
-}
-
-TEST(ScriptMast, ModifyKeepsTheCodeAndRewritesTheRest) {
-    ScriptDesk d;
-    d.add("ACC", "ACC LTD");
-    d.add("BHEL", "BHARAT HEAVY");
-    d.seekPicks(2);
-    d.press(FrmScriptMast::Find);
-    d.press(FrmScriptMast::Modify);
-    EXPECT_FALSE(d.f.control("TxtSptCode").enabled);
-    EXPECT_FALSE(d.f.control("TxtSptName").locked);
-    EXPECT_EQ(d.f.focused(), "TxtSptName");
-    EXPECT_EQ(d.mask(), "0001101");
-    d.f.setText("TxtSptName", "BHEL LTD");
-    d.f.setText("TxtContract", "");
-    d.press(FrmScriptMast::Save);
-    EXPECT_TRUE(d.ui.boxes().empty()) << d.lastBox();
-    EXPECT_EQ(d.column("BHEL", "ScrName"), "BHEL LTD");
-    EXPECT_EQ(d.column("BHEL", "Field2"), "0");
-    EXPECT_EQ(d.column("ACC", "ScrName"), "ACC LTD");
-    EXPECT_TRUE(d.f.control("TxtSptCode").enabled) << "the reset gives the code back";
-
-    // A quote in the new name: the update fails and nothing changes.
-    d.press(FrmScriptMast::Find);
-    d.press(FrmScriptMast::Modify);
-    d.f.setText("TxtDesc", "it's");
-    d.press(FrmScriptMast::Save);
-    EXPECT_EQ(d.lastBox(), "Failed in updating record");
-    EXPECT_EQ(d.column("BHEL", "Descr"), "");
-}
-
-TEST(ScriptMast, DeleteAsksFirst) {
-    ScriptDesk d;
-    d.add("ACC", "ACC LTD");
-    d.seekPicks(1);
-    d.press(FrmScriptMast::Find);
-    d.ui.queueAnswer(MsgAnswer::No);
-    d.press(FrmScriptMast::Delete);
-    EXPECT_EQ(d.boxLines(),
-              std::vector<std::string>{"Delete Item|Do you wish to delete this record?|question"});
-    EXPECT_EQ(d.count("ScriptMast"), 1);
-    EXPECT_EQ(d.mask(), "1000011");
-
-    d.press(FrmScriptMast::Find);
-    d.press(FrmScriptMast::Delete); // Yes
-    EXPECT_EQ(d.count("ScriptMast"), 0);
-    EXPECT_EQ(d.f.text("TxtSptCode"), "");
-}
-
-TEST(ScriptMast, UndoAndExit) {
-    ScriptDesk d;
     d.press(FrmScriptMast::New);
+    EXPECT_FALSE(d.f.control("TxtContract").locked);
     d.f.setText("TxtSptCode", "X");
     d.press(FrmScriptMast::Undo);
     EXPECT_EQ(d.f.text("TxtSptCode"), "");
@@ -197,19 +95,58 @@ TEST(ScriptMast, UndoAndExit) {
     EXPECT_TRUE(d.f.control("TxtSptCode").locked);
     d.press(FrmScriptMast::Exit);
     EXPECT_FALSE(d.f.visible());
-    EXPECT_EQ(d.count("ScriptMast"), 0);
+    EXPECT_EQ(d.count("ScriptMast"), 2);
+    EXPECT_TRUE(d.ui.boxes().empty()) << d.lastBox();
+    d.f.show();
+    test::pressKey(d.f, "TxtSptName", keys::Escape);
+    EXPECT_FALSE(d.f.visible());
 }
 
-TEST(MonthMaster, AnEmptyGridUnderItsThreeHeadings) {
-    test::Desk d;
-    Form& f = d.app.screens().get(Frmnth::kName);
-    EXPECT_EQ(f.caption(), "Month Master Detail");
-    Grid& va1 = f.grid("va1");
-    EXPECT_EQ(va1.maxRows(), 0);
-    ASSERT_EQ(va1.maxCols(), 3);
-    const std::pair<const char*, double> columns[] = {{"Month", 12}, {"Stock", 5}, {"Future", 5}};
-    for (int c = 1; c <= 3; ++c) {
-        EXPECT_EQ(va1.column(c).heading, columns[c - 1].first);
-        EXPECT_EQ(va1.column(c).width, columns[c - 1].second);
-    }
+TEST(ScriptMast, FindFillsTheFieldsForModifyAndDelete) {
+    ScriptDesk d;
+    d.app.store().execute(
+        "insert into ScriptMast (ScrCode, ScrName, RateDiff, Limit_Cr, First_Gamma, Field2) "
+        "values ('ACC', 'ACC LTD', 1.5, 20, '100', 250)");
+    d.add("BHEL", "BHARAT HEAVY");
+    d.find(1);
+    EXPECT_EQ(d.shown(), "ACC|ACC LTD||1.5|20|100||250|");
+    EXPECT_EQ(d.mask(), "1110011");
+    // Esc in the list leaves what is on the screen.
+    d.find(0);
+    EXPECT_EQ(d.f.text("TxtSptCode"), "ACC");
+
+    d.find(2);
+    d.press(FrmScriptMast::Modify);
+    EXPECT_FALSE(d.f.control("TxtSptCode").enabled);
+    EXPECT_FALSE(d.f.control("TxtSptName").locked);
+    EXPECT_EQ(d.f.focused(), "TxtSptName");
+    EXPECT_EQ(d.mask(), "0001101");
+    d.type({{"TxtSptName", "BHEL LTD"}, {"TxtContract", ""}, {"TxtDesc", "Power"}});
+    d.press(FrmScriptMast::Save);
+    EXPECT_TRUE(d.ui.boxes().empty()) << d.lastBox();
+    EXPECT_EQ(d.row("BHEL"), "BHEL|BHEL LTD|Power|0|0|0|0|0|");
+    EXPECT_EQ(d.row("ACC"), "ACC|ACC LTD||1.5|20|100||250|");
+    EXPECT_TRUE(d.f.control("TxtSptCode").enabled) << "the reset gives the code back";
+
+    // A quote in the new description: the update fails and nothing changes.
+    d.find(2);
+    d.press(FrmScriptMast::Modify);
+    d.f.setText("TxtDesc", "it's");
+    d.press(FrmScriptMast::Save);
+    EXPECT_EQ(d.boxLines(), std::vector<std::string>{"Error|Failed in updating record|critical"});
+    EXPECT_EQ(d.row("BHEL"), "BHEL|BHEL LTD|Power|0|0|0|0|0|");
+
+    d.ui.clearBoxes();
+    d.find(1);
+    d.ui.queueAnswer(MsgAnswer::No);
+    d.press(FrmScriptMast::Delete);
+    EXPECT_EQ(d.boxLines(),
+              std::vector<std::string>{"Delete Item|Do you wish to delete this record?|question"});
+    EXPECT_EQ(d.count("ScriptMast"), 2);
+    EXPECT_EQ(d.mask(), "1000011");
+    d.find(1);
+    d.press(FrmScriptMast::Delete); // Yes
+    EXPECT_EQ(d.row("ACC"), "<no row>");
+    EXPECT_EQ(d.count("ScriptMast"), 1);
+    EXPECT_EQ(d.f.text("TxtSptCode"), "");
 }
