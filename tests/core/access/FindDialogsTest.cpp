@@ -33,154 +33,133 @@ struct LookupDesk : test::Desk {
 
 } // namespace
 
-TEST(FrmSeek, ThePickedRowGivesItsFirstColumnAndTheDialogGoes) {
+TEST(FrmSeek, ThePickedRowGivesItsFirstColumnEscOrAnEmptySetNothingAndTheDialogGoes) {
     struct Case {
         const char* name;
+        const char* statement;
         int row; // 0: the row the dialog starts on
-        bool doubleClick;
+        int key; // 0: a double click
         const char* expected;
     } cases[] = {
-        {"Enter on the first row", 0, false, "ACC"},
-        {"Enter on a chosen row", 3, false, "BHEL"},
-        {"double click", 5, true, "INFY"},
+        {"Enter on the first row", kScripts, 0, keys::Enter, "ACC"},
+        {"Enter on a chosen row", kScripts, 3, keys::Enter, "BHEL"},
+        {"double click", kScripts, 5, 0, "INFY"},
+        {"Esc after a pick", kScripts, 0, keys::Escape, ""},
+        {"Enter on an empty set", "select * from Charges", 0, keys::Enter, ""},
     };
+    LookupDesk d; // one desk throughout: no pick is handed back twice
     for (const Case& c : cases) {
-        LookupDesk d;
         std::string captionShown;
-        const std::string got = d.seek(kScripts, [&](FrmSeek& s) {
+        bool shownAfter = false;
+        const std::string got = d.seek(c.statement, [&](FrmSeek& s) {
             captionShown = s.caption();
-            Grid& g = s.grid("MSHFlexGrid1");
-            if (c.row) g.activeRow = c.row;
-            if (c.doubleClick)
-                s.fire("MSHFlexGrid1", EventType::DblClick);
+            if (c.row) s.grid("MSHFlexGrid1").activeRow = c.row;
+            if (c.key)
+                pressKey(s, "MSHFlexGrid1", c.key);
             else
-                pressKey(s, "MSHFlexGrid1", keys::Enter);
+                s.fire("MSHFlexGrid1", EventType::DblClick);
+            if (c.key != keys::Escape) shownAfter = s.visible(); // Esc unloads it
         });
         EXPECT_EQ(got, c.expected) << c.name;
         EXPECT_EQ(captionShown, "Script List") << c.name;
+        EXPECT_FALSE(shownAfter) << c.name;
         EXPECT_EQ(d.app.screens().find(FrmSeek::kName), nullptr) << c.name << ": the caller unloads it";
     }
+    EXPECT_TRUE(d.ui.boxes().empty());
+    EXPECT_THROW(d.seek("SELECT * FROM NoSuchTable", [](FrmSeek&) {}), StoreError) << "reaches the caller";
 }
 
-TEST(FrmSeek, EscOrAnEmptySetGiveNothing) {
+TEST(Search, TypingFindsTheFirstRowBeginningWithTheTextInAnyCaseAndTheKeysMoveOn) {
+    struct Step {
+        const char* typed; // else the key pressed
+        int key;
+        int row; // the current row afterwards
+        int shift = 0;
+    } steps[] = {
+        {"INFY", 0, 5},
+        {"INFYS", 0, 5},
+        {"Z", 0, 5},
+        {"", 0, 1},
+        {"B", 0, 3},
+        {"bp", 0, 4},
+        {"AD", 0, 2},
+        {"a", 0, 1},
+        {nullptr, 'N', 2},
+        {nullptr, 'N', 2},
+        {nullptr, 'P', 1},
+        {nullptr, 'P', 1},
+        {nullptr, 'N', 1, keys::ShiftMask}, // a capital is typing
+        {nullptr, keys::Down, 2},
+        {nullptr, keys::Down, 3},
+        {nullptr, keys::Up, 2},
+        {nullptr, keys::PageDown, 5},
+        {nullptr, keys::PageUp, 1}, // past either end: the last or first row
+    };
     LookupDesk d;
-    EXPECT_EQ(d.seek(kScripts, [](FrmSeek& s) { pressKey(s, "MSHFlexGrid1", keys::Escape); }), "");
-    EXPECT_EQ(d.app.screens().find(FrmSeek::kName), nullptr);
+    d.lookup(kScripts, [&](search& s) {
+        for (const Step& st : steps) {
+            const std::string what =
+                st.typed ? "typed '" + std::string(st.typed) + "'" : "key " + std::to_string(st.key);
+            if (st.typed)
+                s.setText("txt_search", st.typed);
+            else
+                EXPECT_EQ(pressKey(s, "txt_search", st.key, st.shift).keyCode, st.shift ? st.key : 0)
+                    << what << ": a command is swallowed";
+            EXPECT_EQ(s.currentRow(), st.row) << what;
+        }
+    });
+}
 
-    // A pick, then Esc on the next look-up: the earlier pick does not come back.
-    EXPECT_EQ(d.seek(kScripts, [](FrmSeek& s) { pressKey(s, "MSHFlexGrid1", keys::Enter); }), "ACC");
-    EXPECT_EQ(d.seek(kScripts, [](FrmSeek& s) { pressKey(s, "MSHFlexGrid1", keys::Escape); }), "");
-
-    bool hidden = false;
-    EXPECT_EQ(d.seek("select * from Charges",
-                     [&](FrmSeek& s) {
-                         pressKey(s, "MSHFlexGrid1", keys::Enter);
-                         hidden = !s.visible();
-                     }),
-              "");
-    EXPECT_TRUE(hidden);
+TEST(Search, OkOrEnterGiveEveryColumnOfTheCurrentRowEscGivesNone) {
+    const std::pair<std::function<void(search&)>, std::vector<std::string>> cases[] = {
+        {[](search& s) {
+             s.setText("txt_search", "bh");
+             s.fire("cmd_ok", EventType::Click);
+         },
+         {"BHEL", "bharat heavy"}},
+        {[](search& s) {
+             s.setText("txt_search", "bp");
+             pressKey(s, "txt_search", keys::Enter);
+         },
+         {"BPCL", ""}},
+        {[](search& s) { pressKey(s, "txt_search", keys::Escape); }, {}},
+        {[](search& s) { pressKey(s, "DB1", keys::Escape); }, {}},
+    };
+    LookupDesk d;
+    for (const auto& [act, expected] : cases) {
+        EXPECT_EQ(d.lookup(kScripts, act), expected);
+        EXPECT_EQ(d.app.screens().find(search::kName), nullptr);
+    }
     EXPECT_TRUE(d.ui.boxes().empty());
 }
 
-TEST(FrmSeek, ABrokenStatementReachesTheCaller) {
+TEST(Search, TheSearchColumnIsChosenInTheComboAndNumbersAreSearchedAsTheyRead) {
     LookupDesk d;
-    EXPECT_THROW(d.seek("SELECT * FROM NoSuchTable", [](FrmSeek&) {}), StoreError);
-}
+    EXPECT_EQ(
+        d.lookup(kScripts,
+                 [](search& s) {
+                     EXPECT_EQ(s.control("Combo1").items, (std::vector<std::string>{"ScrCode", "ScrName"}));
+                     EXPECT_EQ(s.text("Combo1"), "ScrCode");
+                     EXPECT_EQ(s.focused(), "txt_search");
+                     s.setText("txt_search", "IN");
+                     s.setText("Combo1", "ScrName");
+                     s.fire("Combo1", EventType::Click);
+                     EXPECT_EQ(s.text("txt_search"), "");
+                     s.setText("txt_search", "BHARAT"); // the names are searched now, case aside
+                     s.fire("cmd_ok", EventType::Click);
+                 }),
+        (std::vector<std::string>{"BHEL", "bharat heavy"}));
 
-TEST(Search, TypingMovesToTheFirstRowThatBeginsWithTheTextInAnyCase) {
-    struct Case {
-        const char* typed;
-        int row; // the current row afterwards, starting from row 1
-    } cases[] = {
-        {"B", 3}, {"bp", 4}, {"A", 1}, {"AD", 2}, {"INFY", 5}, {"INFYS", 1}, {"Z", 1}, {"", 1},
-    };
-    for (const Case& c : cases) {
-        LookupDesk d;
-        int row = -1;
-        d.lookup(kScripts, [&](search& s) {
-            s.setText("txt_search", c.typed);
-            row = s.currentRow();
-        });
-        EXPECT_EQ(row, c.row) << "typed " << c.typed;
-    }
-}
-
-TEST(Search, NextAndPreviousMatchesAndTheMovingKeys) {
-    LookupDesk d;
-    std::vector<int> rows;
-    d.lookup(kScripts, [&](search& s) {
-        // Every key here is a command the dialog swallows, but for a capital N, which is typing.
-        const auto press = [&](int code, int shift = 0) {
-            EXPECT_EQ(pressKey(s, "txt_search", code, shift).keyCode, shift ? code : 0) << code;
-            rows.push_back(s.currentRow());
-        };
-        s.setText("txt_search", "a");
-        rows.push_back(s.currentRow());
-        press('N');                  // ADANIENT
-        press('N');                  // no third A: stays
-        press('P');                  // ACC
-        press('P');                  // nothing before: stays
-        press('N', keys::ShiftMask); // a capital N is typing, not a command
-        press(keys::Down);
-        press(keys::Down);
-        press(keys::Up);
-        press(keys::PageDown); // past the end: the last row
-        press(keys::PageUp);   // before the start: the first row
-        s.setText("txt_search", "zz");
-        rows.push_back(s.currentRow());
-    });
-    EXPECT_EQ(rows, (std::vector<int>{1, 2, 2, 1, 1, 1, 2, 3, 2, 5, 1, 1}));
-}
-
-TEST(Search, OkGivesEveryColumnOfTheCurrentRowEscGivesNone) {
-    LookupDesk d;
-    EXPECT_EQ(d.lookup(kScripts,
+    d.app.store().execute("insert into Users (UserCd, UserNm, Pwd) values ('12', 'RAVI', 'r')");
+    EXPECT_EQ(d.lookup("SELECT Usernm as [NAME],usercd as [CODE] from users order by usernm",
                        [](search& s) {
-                           s.setText("txt_search", "bh");
-                           s.fire("cmd_ok", EventType::Click);
-                       }),
-              (std::vector<std::string>{"BHEL", "bharat heavy"}));
-    EXPECT_EQ(d.app.screens().find(search::kName), nullptr);
-
-    EXPECT_EQ(d.lookup(kScripts,
-                       [](search& s) {
-                           s.setText("txt_search", "bp");
+                           s.setText("Combo1", "CODE");
+                           s.fire("Combo1", EventType::Click);
+                           s.setText("txt_search", "1");
+                           pressKey(s, "txt_search", 'N');
                            pressKey(s, "txt_search", keys::Enter);
                        }),
-              (std::vector<std::string>{"BPCL", ""}));
-    EXPECT_TRUE(d.lookup(kScripts, [](search& s) { pressKey(s, "txt_search", keys::Escape); }).empty());
-    EXPECT_TRUE(d.lookup(kScripts, [](search& s) { pressKey(s, "DB1", keys::Escape); }).empty());
-    EXPECT_TRUE(d.ui.boxes().empty());
-}
-
-TEST(Search, TheSearchColumnIsChosenInTheCombo) {
-    LookupDesk d;
-    const auto got = d.lookup(kScripts, [](search& s) {
-        EXPECT_EQ(s.control("Combo1").items, (std::vector<std::string>{"ScrCode", "ScrName"}));
-        EXPECT_EQ(s.text("Combo1"), "ScrCode");
-        EXPECT_EQ(s.focused(), "txt_search");
-        s.setText("txt_search", "IN");
-        s.setText("Combo1", "ScrName");
-        s.fire("Combo1", EventType::Click);
-        EXPECT_EQ(s.text("txt_search"), "");
-        s.setText("txt_search", "BHARAT"); // the names are searched now, case aside
-        s.fire("cmd_ok", EventType::Click);
-    });
-    EXPECT_EQ(got, (std::vector<std::string>{"BHEL", "bharat heavy"}));
-}
-
-TEST(Search, NumbersAreSearchedAsTheyRead) {
-    LookupDesk d;
-    d.app.store().execute("insert into Users (UserCd, UserNm, Pwd) values ('12', 'RAVI', 'r')");
-    const auto got =
-        d.lookup("SELECT Usernm as [NAME],usercd as [CODE] from users order by usernm", [](search& s) {
-            s.setText("Combo1", "CODE");
-            s.fire("Combo1", EventType::Click);
-            s.setText("txt_search", "1");
-            pressKey(s, "txt_search", 'N');
-            pressKey(s, "txt_search", keys::Enter);
-        });
-    EXPECT_EQ(got, (std::vector<std::string>{"RAVI", "12"}));
+              (std::vector<std::string>{"RAVI", "12"}));
 }
 
 TEST(Search, AnEmptySetSaysSoAndGivesNothing) {

@@ -23,6 +23,13 @@ struct EntryDesk : Desk {
     }
     const ShownBox& lastBox() const { return ui.boxes().back(); }
     size_t boxCount() const { return ui.boxes().size(); }
+    // Where the focus is, the text of a field and the boxes shown so far, in one line.
+    std::string fieldState(const Form& f, const std::string& field) const {
+        std::string s = f.focused() + " '" + f.text(field) + "'";
+        for (const std::string& box : boxLines())
+            s += " " + box;
+        return s;
+    }
     // What a dialog leaves for its opener, in one line; "at the time shown" when its trade time is
     // the time on its label.
     static std::string handedBack(const TradeEntryDialog& d) {

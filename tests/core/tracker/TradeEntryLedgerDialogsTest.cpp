@@ -16,6 +16,7 @@ using keys::Escape;
 
 constexpr const char* kSymbol = "NIFX2026";
 constexpr const char* kDesc = "Nov hedge";
+const std::string kFigure = " Data Type Error|Only numeric values are accepted.|none";
 
 struct LedgerDesk : test::EntryDesk {
     LedgerDesk() {
@@ -90,24 +91,23 @@ TEST(TradeEntryOptionNew, ComesUpWithTheCurrentSheetsStrikesAndOkWritesTheSeries
 }
 
 TEST(TradeEntryOptionNew, OkChecksTheChoicesThenTheFiguresAndWritesNothingUntilAllPass) {
-    const std::string combo = "Data Error|Please select a value from the combo.|none";
-    const std::string figure = "Data Type Error|Only numeric values are accepted.|none";
+    const std::string combo = " Data Error|Please select a value from the combo.|none";
     const struct {
         const char *strike, *cp, *units, *traded;
-        std::string box;
-        const char* after; // the field refused, with its text
+        std::string refused; // the field refused, its text and the box
     } cases[] = {
-        {"", "C", "10", "5", combo, "CmbStrike ''"},        {"17000", " ", "10", "5", combo, "CmbC_P ' '"},
-        {"17000", "C", "ten", "5", figure, "TxtUnits ''"},  {"17000", "C", "  ", "5", figure, "TxtUnits ''"},
-        {"17000", "C", "10", "5x", figure, "TxtTraded ''"}, {"17000", "C", "10", "", figure, "TxtTraded ''"},
+        {"", "C", "10", "5", "CmbStrike ''" + combo},
+        {"17000", " ", "10", "5", "CmbC_P ' '" + combo},
+        {"17000", "C", "ten", "5", "TxtUnits ''" + kFigure},
+        {"17000", "C", "  ", "5", "TxtUnits ''" + kFigure},
+        {"17000", "C", "10", "5x", "TxtTraded ''" + kFigure},
+        {"17000", "C", "10", "", "TxtTraded ''" + kFigure},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.after) + " '" + c.units + "' '" + c.traded + "'");
         OptionNewDesk d;
         d.fill(c.strike, c.cp, c.units, c.traded);
         d.dlg.fire("CmdOk", EventType::Click);
-        EXPECT_EQ(d.boxLines(), std::vector<std::string>{c.box});
-        EXPECT_EQ(d.dlg.focused() + " '" + d.dlg.text(d.dlg.focused()) + "'", c.after);
+        EXPECT_EQ(d.fieldState(d.dlg, d.dlg.focused()), c.refused) << c.units << "|" << c.traded;
         EXPECT_EQ(d.ledger(), "");
         EXPECT_EQ(d.handedBack(d.dlg), "shown units '' traded ''");
     }
@@ -120,23 +120,17 @@ TEST(TradeEntryOptionNew, EnterMovesOnCheckingTheFigureLeftAndEscCancelsWithoutC
     EXPECT_EQ(d.dlg.focused(), "TxtUnits");
     d.dlg.setText("TxtUnits", "abc");
     d.key(d.dlg, "TxtUnits", Enter);
-    EXPECT_EQ(d.boxLines(),
-              std::vector<std::string>{"Data Type Error|Only numeric values are accepted.|none"});
-    EXPECT_EQ(d.dlg.text("TxtUnits"), "");
-    EXPECT_EQ(d.dlg.focused(), "TxtUnits");
+    EXPECT_EQ(d.fieldState(d.dlg, "TxtUnits"), "TxtUnits ''" + kFigure);
     d.dlg.setText("TxtUnits", " -5 ");
     d.key(d.dlg, "TxtUnits", Enter);
-    EXPECT_EQ(d.dlg.focused(), "TxtTraded") << "a trimmed number passes";
+    EXPECT_EQ(d.fieldState(d.dlg, "TxtUnits"), "TxtTraded ' -5 '" + kFigure) << "a trimmed number passes";
     d.typeAndLeave(d.dlg, "TxtTraded", "", "CmdCancel"); // a figure abandoned is not checked
     d.key(d.dlg, "CmdCancel", Escape);
-    EXPECT_EQ(d.boxCount(), 1u);
+    EXPECT_EQ(d.fieldState(d.dlg, "TxtTraded"), "CmdCancel ''" + kFigure);
     EXPECT_EQ(d.handedBack(d.dlg), "hidden units '' traded ''");
     EXPECT_EQ(d.ledger(), "");
-
-    // Coming back does not hold the abandoned blank price against the next trade.
-    d.dlg.showModal();
-    EXPECT_EQ(d.boxCount(), 1u);
-    EXPECT_EQ(d.dlg.focused(), "CmbStrike");
+    d.dlg.showModal(); // the abandoned blank price is not held against the next trade
+    EXPECT_EQ(d.fieldState(d.dlg, "CmbStrike"), "CmbStrike ''" + kFigure);
 }
 
 TEST(TradeEntryOptionNew, AQuoteInTheOpenersSheetBreaksTheStatementsAndNothingIsWritten) {

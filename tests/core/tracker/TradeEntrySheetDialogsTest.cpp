@@ -37,28 +37,21 @@ struct UnderlyingDesk : test::EntryDesk {
     }
 };
 
-struct FieldCase {
-    const char* typed;
-    const char* after; // the field's text once left
-    bool refused;      // the "Invalid Entry" box and the focus kept
+// A figure typed and left, and the text it is left with; "!": refused with the "Invalid Entry"
+// box, the field cleared and the focus kept.
+const std::pair<const char*, const char*> kFigureCases[] = {
+    {"", "0"},          {"   ", "0"},   {"12.5", "12.5"}, {" 7 ", " 7 "}, {"-3", "-3"},
+    {"1,000", "1,000"}, {"1e3", "1e3"}, {"abc", "!"},     {"12abc", "!"}, {"1.2.3", "!"},
 };
 
-const FieldCase kFigureCases[] = {
-    {"", "0", false},      {"   ", "0", false}, {"12.5", "12.5", false},
-    {" 7 ", " 7 ", false}, {"-3", "-3", false}, {"1,000", "1,000", false},
-    {"abc", "", true},     {"12abc", "", true}, {"1.2.3", "", true},
-};
-
-const std::vector<std::string> kRefusal{"Invalid Entry|Only Numeric Values allowed here|critical"};
-
-template <class D> void expectFigureChecks(const char* field, const char* next) {
-    for (const FieldCase& c : kFigureCases) {
-        SCOPED_TRACE(std::string(field) + " typed as '" + c.typed + "'");
+template <class D> void expectFigureChecks(const std::string& field, const std::string& next) {
+    for (const auto& [typed, after] : kFigureCases) {
         D d;
-        d.typeAndLeave(d.dlg, field, c.typed, next);
-        EXPECT_EQ(d.dlg.text(field), c.after);
-        EXPECT_EQ(d.boxLines(), c.refused ? kRefusal : std::vector<std::string>{});
-        EXPECT_EQ(d.dlg.focused(), c.refused ? field : next);
+        d.typeAndLeave(d.dlg, field, typed, next);
+        EXPECT_EQ(d.fieldState(d.dlg, field),
+                  *after == '!' ? field + " '' Invalid Entry|Only Numeric Values allowed here|critical"
+                                : next + " '" + after + "'")
+            << field << " typed as '" << typed << "'";
     }
 }
 
@@ -72,16 +65,25 @@ TEST(TradeEntryFigures, EachDialogChecksItsPricesOnLeavingButNotTheOptionUnits) 
 
     OptionDesk d;
     d.typeAndLeave(d.dlg, "TxtUnits", "ten", "TxtTraded");
-    EXPECT_EQ(d.dlg.text("TxtUnits"), "ten");
-    EXPECT_EQ(d.boxCount(), 0u);
+    EXPECT_EQ(d.fieldState(d.dlg, "TxtUnits"), "TxtTraded 'ten'");
 }
 
 TEST(TradeEntryOption, ComesUpThenOkOrEnterAnywhereHandsOnTheTextsBeforeAnyCheck) {
-    // "": the OK button clicked, with a premium that would be rounded if anything rounded it.
-    // Otherwise Enter in that control, with a premium never left and so never checked.
-    for (const char* field : {"", "TxtUnits", "TxtTraded", "TxtImpVolF", "Cmd(0)"}) {
-        SCOPED_TRACE(*field ? field : "OK clicked");
-        const char* traded = *field ? "x" : "12.346";
+    // The control Enter is pressed in ("": OK clicked, with a premium nothing may round), the premium
+    // (never left, so never checked: "x" passes) and the volatility with the currency it becomes:
+    // four decimals with ties to even, on ties exact in binary (33/32, 35/32).
+    const struct {
+        const char *field, *traded, *vol;
+        double impVolF;
+    } cases[] = {
+        {"", "12.346", "18.123456", 18.1235},
+        {"TxtUnits", "x", "1.03125", 1.0312},
+        {"TxtTraded", "x", "1.09375", 1.0938},
+        {"TxtImpVolF", "x", " -18.123456 ", -18.1235},
+        {"Cmd(0)", "x", "0", 0},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(*c.field ? c.field : "OK clicked");
         OptionDesk d;
         EXPECT_EQ(d.dlg.focused(), "TxtUnits");
         d.expectClockTime(d.dlg.text("LblTime"));
@@ -90,15 +92,15 @@ TEST(TradeEntryOption, ComesUpThenOkOrEnterAnywhereHandsOnTheTextsBeforeAnyCheck
         d.dlg.moveFocus("TxtTraded");
         EXPECT_EQ(d.dlg.control("TxtTraded").selStart, 0);
         EXPECT_EQ(d.dlg.control("TxtTraded").selLength, 6) << "\"101.25\" selected on entry";
-        d.dlg.setText("TxtTraded", traded);
-        d.dlg.setText("TxtImpVolF", "18.123456");
-        if (*field)
-            d.key(d.dlg, field, Enter);
+        d.dlg.setText("TxtTraded", c.traded);
+        d.dlg.setText("TxtImpVolF", c.vol);
+        if (*c.field)
+            d.key(d.dlg, c.field, Enter);
         else
             d.dlg.fire("Cmd(0)", EventType::Click);
         EXPECT_EQ(d.handedBack(d.dlg),
-                  "hidden OK units '-50' traded '" + std::string(traded) + "' at the time shown");
-        EXPECT_DOUBLE_EQ(d.dlg.ImpVolF, 18.1235); // four decimals, by hand: 18.12345|6 rounds up
+                  "hidden OK units '-50' traded '" + std::string(c.traded) + "' at the time shown");
+        EXPECT_DOUBLE_EQ(d.dlg.ImpVolF, c.impVolF);
         EXPECT_EQ(d.boxCount(), 0u);
     }
 }
@@ -123,15 +125,19 @@ TEST(TradeEntryOption, EveryWayOfCancellingLeavesTheResultsAloneAndTheAbandonedP
     }
 }
 
-TEST(TradeEntryOption, EnterWithAVolatilityThatIsNoNumberFailsAtTheCurrencyConversion) {
-    OptionDesk d;
-    d.dlg.moveFocus("TxtImpVolF");
-    EXPECT_EQ(d.dlg.control("TxtImpVolF").selLength, 4) << "\"18.5\" selected on entry";
-    d.dlg.setText("TxtImpVolF", "high");
-    d.key(d.dlg, "TxtImpVolF", Enter);
-    EXPECT_EQ(d.boxTexts(), std::vector<std::string>{"Run-time error '13':\n\nType mismatch"});
-    EXPECT_FALSE(d.dlg.OK);
-    EXPECT_TRUE(d.dlg.visible()) << "the dialog stays up for a better figure";
+TEST(TradeEntryOption, EnterWithAVolatilityThatIsNoCurrencyFailsAtTheConversion) {
+    for (const auto& [vol, box] : {std::pair{"high", "Run-time error '13':\n\nType mismatch"},
+                                   {"", "Run-time error '13':\n\nType mismatch"},
+                                   {"1e16", "Run-time error '6':\n\nOverflow"}}) {
+        OptionDesk d;
+        d.dlg.moveFocus("TxtImpVolF");
+        EXPECT_EQ(d.dlg.control("TxtImpVolF").selLength, 4) << "\"18.5\" selected on entry";
+        d.dlg.setText("TxtImpVolF", vol);
+        d.key(d.dlg, "TxtImpVolF", Enter);
+        EXPECT_EQ(d.boxTexts(), std::vector<std::string>{box}) << vol;
+        EXPECT_FALSE(d.dlg.OK);
+        EXPECT_TRUE(d.dlg.visible()) << "the dialog stays up for a better figure";
+    }
 }
 
 TEST(TradeEntryUnderlying, ComesUpOfferingEquityWithZeroUnitsEachTimeAndEscHandsBackNothing) {
@@ -177,25 +183,5 @@ TEST(TradeEntryUnderlying, EnterPressesOkWhichHandsOnThePriceToThePaisaAndTheKin
                   "hidden OK units '-4' traded '" + std::string(c.passed) + "' at the time shown");
         EXPECT_EQ(d.dlg.CashType, c.futures ? "F" : "Q");
         EXPECT_EQ(d.boxCount(), 0u);
-    }
-}
-
-TEST(TradeEntryFigures, NumericTestAndCurrencyConversion) {
-    // The figure checks above try IsNumeric on the other texts.
-    EXPECT_TRUE(IsNumeric("1e3"));
-    EXPECT_FALSE(IsNumeric(""));
-    // CCur keeps four decimals with ties to even. The ties chosen are exact in binary (33/32,
-    // 35/32) so the rounding rule alone decides them.
-    EXPECT_DOUBLE_EQ(CCur("1.03125"), 1.0312);
-    EXPECT_DOUBLE_EQ(CCur("1.09375"), 1.0938);
-    EXPECT_DOUBLE_EQ(CCur(" -18.123456 "), -18.1235);
-    for (const auto& [text, error] :
-         {std::pair{"abc", vberr::TypeMismatch}, {"", vberr::TypeMismatch}, {"1e16", vberr::Overflow}}) {
-        try {
-            CCur(text);
-            ADD_FAILURE() << "'" << text << "' converted";
-        } catch (const VbError& e) {
-            EXPECT_EQ(e.number(), error) << "'" << text << "'";
-        }
     }
 }
