@@ -30,13 +30,15 @@ struct EntryDesk : Desk {
             s += " " + box;
         return s;
     }
-    // What a dialog leaves for its opener, in one line; "at the time shown" when its trade time is
-    // the time on its label.
-    static std::string handedBack(const TradeEntryDialog& d) {
+    // What a dialog leaves for its opener and the boxes shown so far, in one line; "at the time
+    // shown" when its trade time is the time on its label.
+    std::string handedBack(const TradeEntryDialog& d) const {
         std::string s = std::string(d.visible() ? "shown" : "hidden") + (d.OK ? " OK" : "") + " units '" +
                         d.Units + "' traded '" + d.Traded + "'";
         if (!d.TradeTime.empty())
             s += d.TradeTime == d.text("LblTime") ? " at the time shown" : " at " + d.TradeTime;
+        for (const std::string& box : boxLines())
+            s += " " + box;
         return s;
     }
 
