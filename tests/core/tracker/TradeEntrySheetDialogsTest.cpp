@@ -32,7 +32,6 @@ struct UnderlyingDesk : test::EntryDesk {
     UnderlyingDesk() {
         dlg.setText("TxtUnits", "");
         dlg.setText("TxtTraded", "17012.5");
-        dlg.setValue("Option1(1)", true);
         dlg.showModal();
     }
 };
@@ -68,22 +67,31 @@ TEST(TradeEntryFigures, EachDialogChecksItsPricesOnLeavingButNotTheOptionUnits) 
     EXPECT_EQ(d.fieldState(d.dlg, "TxtUnits"), "TxtTraded 'ten'");
 }
 
-TEST(TradeEntryOption, ComesUpThenOkOrEnterAnywhereHandsOnTheTextsBeforeAnyCheck) {
-    // The control Enter is pressed in ("": OK clicked, with a premium nothing may round), the premium
-    // (never left, so never checked: "x" passes) and the volatility with the currency it becomes:
-    // four decimals with ties to even, on ties exact in binary (33/32, 35/32).
+TEST(TradeEntryOption, OkOrEnterHandsOnTheTextsBeforeAnyCheckAndEveryCancelLeavesTheResultsAlone) {
+    // A key in a control, a click (no key) or the close box (no control). Enter presses OK before
+    // the premium it stands in is left, so "x" passes unchecked; a premium abandoned for Cancel is
+    // not checked either. Nothing rounds the premium; the volatility goes on as currency: four
+    // decimals with ties to even, on ties exact in binary (33/32, 35/32).
     const struct {
-        const char *field, *traded, *vol;
+        const char* control;
+        int key;
+        bool ok;
+        const char *traded, *vol;
         double impVolF;
     } cases[] = {
-        {"", "12.346", "18.123456", 18.1235},
-        {"TxtUnits", "x", "1.03125", 1.0312},
-        {"TxtTraded", "x", "1.09375", 1.0938},
-        {"TxtImpVolF", "x", " -18.123456 ", -18.1235},
-        {"Cmd(0)", "x", "0", 0},
+        {"Cmd(0)", 0, true, "12.346", "18.123456", 18.1235},
+        {"TxtUnits", Enter, true, "x", "1.03125", 1.0312},
+        {"TxtTraded", Enter, true, "x", "1.09375", 1.0938},
+        {"TxtImpVolF", Enter, true, "x", " -18.123456 ", -18.1235},
+        {"Cmd(0)", Enter, true, "x", "0", 0},
+        {"Cmd(1)", 0, false, "abc", "1", 0},
+        {"TxtTraded", Escape, false, "abc", "1", 0},
+        {"Cmd(0)", Escape, false, "abc", "1", 0},
+        {"Cmd(1)", Enter, false, "abc", "1", 0},
+        {"", 0, false, "abc", "1", 0},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(*c.field ? c.field : "OK clicked");
+        SCOPED_TRACE(std::string(c.control) + " key " + std::to_string(c.key));
         OptionDesk d;
         EXPECT_EQ(d.dlg.focused(), "TxtUnits");
         d.expectClockTime(d.dlg.text("LblTime"));
@@ -94,31 +102,17 @@ TEST(TradeEntryOption, ComesUpThenOkOrEnterAnywhereHandsOnTheTextsBeforeAnyCheck
         EXPECT_EQ(std::pair(traded.selStart, traded.selLength), std::pair(0, 6)) << "\"101.25\" selected";
         d.dlg.setText("TxtTraded", c.traded);
         d.dlg.setText("TxtImpVolF", c.vol);
-        if (*c.field)
-            d.key(d.dlg, c.field, Enter);
-        else
-            d.dlg.fire("Cmd(0)", EventType::Click);
-        EXPECT_EQ(d.handedBack(d.dlg),
-                  "hidden OK units '-50' traded '" + std::string(c.traded) + "' at the time shown");
-        EXPECT_DOUBLE_EQ(d.dlg.ImpVolF, c.impVolF);
-    }
-}
-
-TEST(TradeEntryOption, EveryWayOfCancellingLeavesTheResultsAloneAndTheAbandonedPremiumUnchecked) {
-    // A key in a control, a click (no key) or the close box (no control).
-    for (const auto& [control, key] :
-         {std::pair{"Cmd(1)", 0}, {"TxtTraded", Escape}, {"Cmd(0)", Escape}, {"Cmd(1)", Enter}, {"", 0}}) {
-        SCOPED_TRACE(std::string(control) + " key " + std::to_string(key));
-        OptionDesk d;
-        d.dlg.setText("TxtUnits", "25");
-        d.typeAndLeave(d.dlg, "TxtTraded", "abc", "Cmd(1)");
-        if (!*control)
+        if (!c.ok) d.dlg.moveFocus("Cmd(1)");
+        if (!*c.control)
             EXPECT_FALSE(d.dlg.requestClose());
-        else if (key)
-            d.key(d.dlg, control, key);
+        else if (c.key)
+            d.key(d.dlg, c.control, c.key);
         else
-            d.dlg.fire(control, EventType::Click);
-        EXPECT_EQ(d.handedBack(d.dlg), "hidden units '' traded ''");
+            d.dlg.fire(c.control, EventType::Click);
+        EXPECT_EQ(d.handedBack(d.dlg),
+                  c.ok ? "hidden OK units '-50' traded '" + std::string(c.traded) + "' at the time shown"
+                       : "hidden units '' traded ''");
+        EXPECT_DOUBLE_EQ(d.dlg.ImpVolF, c.impVolF);
         EXPECT_EQ(d.app.screens().find(FrmOption::kName), &d.dlg) << "kept loaded for the next trade";
     }
 }
