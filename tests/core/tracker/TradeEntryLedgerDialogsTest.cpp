@@ -136,10 +136,9 @@ TEST(TradeEntryUnderlyingNew, ComesUpOfferingFuturesAndOkWritesARowOfTheChosenKi
         d.dlg.setText("TxtUnits", "50");
         d.dlg.setText("TxtTraded", "12.346");
         d.dlg.fire("CmdOk", EventType::Click);
-        EXPECT_EQ(d.handedBack(d.dlg),
-                  "hidden OK units '50' traded '12.35' at the time shown Tallimark|Insert Complete|none");
-        EXPECT_EQ(d.dlg.CashType, cash);
-
+        EXPECT_EQ(d.handedBack(d.dlg) + " " + d.dlg.CashType,
+                  "hidden OK units '50' traded '12.35' at the time shown Tallimark|Insert Complete|none " +
+                      std::string(cash));
         // The object keeps the price to the paisa, the ledger takes it as typed.
         EXPECT_EQ(d.ledger({"Symbol", "InDesc", "CP", "CashType", "Units", "Traded", "Field3", "TradeDt",
                             "Strike", "InType", "MktPrice", "Vol", "Delta", "Last"}),
