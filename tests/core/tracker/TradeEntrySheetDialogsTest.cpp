@@ -131,45 +131,42 @@ TEST(TradeEntryOption, EnterWithAVolatilityThatIsNoCurrencyFailsAtTheConversion)
     }
 }
 
-TEST(TradeEntryUnderlying, ComesUpOfferingEquityWithZeroUnitsEachTimeAndEscHandsBackNothing) {
-    UnderlyingDesk d;
-    for (const char* showing : {"first", "again, after futures and units were typed"}) {
-        SCOPED_TRACE(showing);
-        EXPECT_TRUE(d.dlg.control("Option1(1)").value && !d.dlg.control("Option1(0)").value) << "equity";
-        EXPECT_EQ(d.fieldState(d.dlg, "TxtUnits"), "TxtUnits '0'");
-        EXPECT_EQ(d.dlg.control("TxtUnits").selLength, 1) << "the 0 is there to type over";
-        d.expectClockTime(d.dlg.text("LblTime"));
-
-        d.dlg.setValue("Option1(0)", true);
-        d.dlg.setText("TxtUnits", "25");
-        d.dlg.control("TxtUnits").selLength = 0;
-        d.key(d.dlg, "TxtUnits", Escape);
-        EXPECT_EQ(d.handedBack(d.dlg) + d.dlg.CashType, "hidden units '' traded ''");
-        d.dlg.showModal();
-    }
-}
-
-TEST(TradeEntryUnderlying, EnterPressesOkWhichHandsOnThePriceToThePaisaAndTheKind) {
+TEST(TradeEntryUnderlying, ComesUpAfreshEachTimeAndEnterHandsOnThePriceToThePaisaAndTheKindEscNothing) {
     // Worked by hand: two decimals, halves away from zero on the decimal text. A price that is no
     // number passes as it stands: Enter presses OK before the field is left and checked.
     const struct {
-        const char *typed, *passed;
+        const char *typed, *passed; // nullptr: nothing handed back
         bool futures;
+        int key;
     } cases[] = {
-        {"12.346", "12.35", false},   {"12.344", "12.34", true}, {"2.675", "2.68", false},
-        {"-3.005", "-3.01", false},   {"100", "100.00", false},  {" 7.1 ", "7.10", false},
-        {"1,234.5", "1234.50", true}, {"0", "0.00", false},      {"abc", "abc", true},
+        {"12.346", "12.35", false, Enter},   {"12.344", "12.34", true, Enter},
+        {"2.675", "2.68", false, Enter},     {"-3.005", "-3.01", false, Enter},
+        {"100", "100.00", false, Enter},     {" 7.1 ", "7.10", false, Enter},
+        {"1,234.5", "1234.50", true, Enter}, {"0", "0.00", false, Enter},
+        {"abc", "abc", true, Enter},         {"12.346", nullptr, true, Escape},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.typed);
         UnderlyingDesk d;
+        const auto expectAfresh = [&d] { // equity offered and a 0 to type over, whatever went before
+            EXPECT_TRUE(d.dlg.control("Option1(1)").value && !d.dlg.control("Option1(0)").value);
+            EXPECT_EQ(d.fieldState(d.dlg, "TxtUnits"), "TxtUnits '0'");
+            EXPECT_EQ(d.dlg.control("TxtUnits").selLength, 1);
+            d.expectClockTime(d.dlg.text("LblTime"));
+        };
+        expectAfresh();
         if (c.futures) d.dlg.setValue("Option1(0)", true);
         d.dlg.setText("TxtUnits", "-4");
-        d.dlg.moveFocus("TxtTraded");
+        d.dlg.control("TxtUnits").selLength = 0;
+        // Esc leaves the focus in the units: shown again, they are entered afresh where they stand.
+        if (c.passed) d.dlg.moveFocus("TxtTraded");
         d.dlg.setText("TxtTraded", c.typed);
-        d.key(d.dlg, "TxtTraded", Enter);
+        d.key(d.dlg, "TxtTraded", c.key);
         EXPECT_EQ(d.handedBack(d.dlg) + " " + d.dlg.CashType,
-                  "hidden OK units '-4' traded '" + std::string(c.passed) + "' at the time shown " +
-                      (c.futures ? "F" : "Q"));
+                  c.passed ? "hidden OK units '-4' traded '" + std::string(c.passed) +
+                                 "' at the time shown " + (c.futures ? "F" : "Q")
+                           : "hidden units '' traded '' ");
+        d.dlg.showModal();
+        expectAfresh();
     }
 }
