@@ -29,136 +29,110 @@ struct LookupDesk : test::Desk {
         ui.setModalRunner([act](Form& f) { act(static_cast<search&>(f)); });
         return search_call(app, statement);
     }
+    // Types into the search box, then presses a key in a control (0: clicks it).
+    std::vector<std::string> pick(const char* typed, const char* control, int key) {
+        return lookup(kScripts, [=](search& s) {
+            s.setText("txt_search", typed);
+            if (key)
+                pressKey(s, control, key);
+            else
+                s.fire(control, EventType::Click);
+        });
+    }
 };
 
 } // namespace
 
-TEST(FrmSeek, ThePickedRowGivesItsFirstColumnAndTheDialogGoes) {
+TEST(FrmSeek, ThePickedRowGivesItsFirstColumnEscOrAnEmptySetNothingAndTheDialogGoes) {
     struct Case {
         const char* name;
+        const char* statement;
         int row; // 0: the row the dialog starts on
-        bool doubleClick;
+        int key; // 0: a double click
         const char* expected;
     } cases[] = {
-        {"Enter on the first row", 0, false, "ACC"},
-        {"Enter on a chosen row", 3, false, "BHEL"},
-        {"double click", 5, true, "INFY"},
+        {"Enter on the first row", kScripts, 0, keys::Enter, "ACC"},
+        {"Enter on a chosen row", kScripts, 3, keys::Enter, "BHEL"},
+        {"double click", kScripts, 5, 0, "INFY"},
+        {"Esc after a pick", kScripts, 0, keys::Escape, ""},
+        {"Enter on an empty set", "select * from Charges", 0, keys::Enter, ""},
     };
+    LookupDesk d; // one desk throughout: no pick is handed back twice
     for (const Case& c : cases) {
-        LookupDesk d;
         std::string captionShown;
-        const std::string got = d.seek(kScripts, [&](FrmSeek& s) {
+        bool shownAfter = false;
+        const std::string got = d.seek(c.statement, [&](FrmSeek& s) {
             captionShown = s.caption();
-            Grid& g = s.grid("MSHFlexGrid1");
-            if (c.row) g.activeRow = c.row;
-            if (c.doubleClick)
-                s.fire("MSHFlexGrid1", EventType::DblClick);
+            if (c.row) s.grid("MSHFlexGrid1").activeRow = c.row;
+            if (c.key)
+                pressKey(s, "MSHFlexGrid1", c.key);
             else
-                pressKey(s, "MSHFlexGrid1", keys::Enter);
+                s.fire("MSHFlexGrid1", EventType::DblClick);
+            if (c.key != keys::Escape) shownAfter = s.visible(); // Esc unloads it
         });
         EXPECT_EQ(got, c.expected) << c.name;
         EXPECT_EQ(captionShown, "Script List") << c.name;
-        EXPECT_EQ(d.app.screens().find(FrmSeek::kName), nullptr) << c.name << ": the caller unloads it";
+        EXPECT_FALSE(shownAfter) << c.name;
     }
-}
-
-TEST(FrmSeek, EscOrAnEmptySetGiveNothing) {
-    LookupDesk d;
-    EXPECT_EQ(d.seek(kScripts, [](FrmSeek& s) { pressKey(s, "MSHFlexGrid1", keys::Escape); }), "");
-    EXPECT_EQ(d.app.screens().find(FrmSeek::kName), nullptr);
-
-    // A pick, then Esc on the next look-up: the earlier pick does not come back.
-    EXPECT_EQ(d.seek(kScripts, [](FrmSeek& s) { pressKey(s, "MSHFlexGrid1", keys::Enter); }), "ACC");
-    EXPECT_EQ(d.seek(kScripts, [](FrmSeek& s) { pressKey(s, "MSHFlexGrid1", keys::Escape); }), "");
-
-    bool hidden = false;
-    EXPECT_EQ(d.seek("select * from Charges",
-                     [&](FrmSeek& s) {
-                         pressKey(s, "MSHFlexGrid1", keys::Enter);
-                         hidden = !s.visible();
-                     }),
-              "");
-    EXPECT_TRUE(hidden);
     EXPECT_TRUE(d.ui.boxes().empty());
+    EXPECT_THROW(d.seek("SELECT * FROM NoSuchTable", [](FrmSeek&) {}), StoreError) << "reaches the caller";
 }
 
-TEST(FrmSeek, ABrokenStatementReachesTheCaller) {
+TEST(Search, TypingFindsTheFirstRowBeginningWithTheTextInAnyCaseTheKeysMoveOnAndAQuoteIsAnError) {
     LookupDesk d;
-    EXPECT_THROW(d.seek("SELECT * FROM NoSuchTable", [](FrmSeek&) {}), StoreError);
-}
-
-TEST(Search, TypingMovesToTheFirstRowThatBeginsWithTheTextInAnyCase) {
-    struct Case {
-        const char* typed;
-        int row; // the current row afterwards, starting from row 1
-    } cases[] = {
-        {"B", 3}, {"bp", 4}, {"A", 1}, {"AD", 2}, {"INFY", 5}, {"INFYS", 1}, {"Z", 1}, {"", 1},
-    };
-    for (const Case& c : cases) {
-        LookupDesk d;
-        int row = -1;
-        d.lookup(kScripts, [&](search& s) {
-            s.setText("txt_search", c.typed);
-            row = s.currentRow();
-        });
-        EXPECT_EQ(row, c.row) << "typed " << c.typed;
-    }
-}
-
-TEST(Search, NextAndPreviousMatchesAndTheMovingKeys) {
-    LookupDesk d;
-    std::vector<int> rows;
     d.lookup(kScripts, [&](search& s) {
-        // Every key here is a command the dialog swallows, but for a capital N, which is typing.
-        const auto press = [&](int code, int shift = 0) {
-            EXPECT_EQ(pressKey(s, "txt_search", code, shift).keyCode, shift ? code : 0) << code;
-            rows.push_back(s.currentRow());
-        };
-        s.setText("txt_search", "a");
-        rows.push_back(s.currentRow());
-        press('N');                  // ADANIENT
-        press('N');                  // no third A: stays
-        press('P');                  // ACC
-        press('P');                  // nothing before: stays
-        press('N', keys::ShiftMask); // a capital N is typing, not a command
-        press(keys::Down);
-        press(keys::Down);
-        press(keys::Up);
-        press(keys::PageDown); // past the end: the last row
-        press(keys::PageUp);   // before the start: the first row
-        s.setText("txt_search", "zz");
-        rows.push_back(s.currentRow());
+        // Without a row that begins with the text the row stays.
+        for (const auto& [typed, row] : {std::pair{"INFY", 5},
+                                         {"INFYS", 5},
+                                         {"Z", 5},
+                                         {"", 1},
+                                         {"B", 3},
+                                         {"bp", 4},
+                                         {"AD", 2},
+                                         {"a", 1}}) {
+            s.setText("txt_search", typed);
+            EXPECT_EQ(s.currentRow(), row) << "typed '" << typed << "'";
+        }
+        // On "a": next and previous match (none past either end), but a capital N is typing; Page
+        // Down and Up stop at the last and first rows. Every command key is swallowed.
+        const struct {
+            int key, shift, row;
+        } keyed[] = {{'N', 0, 2},
+                     {'N', 0, 2},
+                     {'P', 0, 1},
+                     {'P', 0, 1},
+                     {'N', keys::ShiftMask, 1},
+                     {keys::Down, 0, 2},
+                     {keys::Down, 0, 3},
+                     {keys::Up, 0, 2},
+                     {keys::PageDown, 0, 5},
+                     {keys::PageUp, 0, 1}};
+        for (const auto& k : keyed) {
+            EXPECT_EQ(pressKey(s, "txt_search", k.key, k.shift).keyCode, k.shift ? k.key : 0) << k.key;
+            EXPECT_EQ(s.currentRow(), k.row) << "key " << k.key << " shift " << k.shift;
+        }
+        s.setText("txt_search", "B");
+        s.setText("txt_search", "B'"); // a quote breaks the search as it breaks a statement
+        EXPECT_EQ(s.currentRow(), 3) << "the cursor stays";
     });
-    EXPECT_EQ(rows, (std::vector<int>{1, 2, 2, 1, 1, 1, 2, 3, 2, 5, 1, 1}));
+    EXPECT_EQ(d.boxTexts(), std::vector<std::string>{
+                                "Run-time error '1':\n\nSyntax error in string in query expression ''B''."});
 }
 
-TEST(Search, OkGivesEveryColumnOfTheCurrentRowEscGivesNone) {
+TEST(Search, OkOrEnterGiveEveryColumnOfTheCurrentRowEscGivesNone) {
     LookupDesk d;
-    EXPECT_EQ(d.lookup(kScripts,
-                       [](search& s) {
-                           s.setText("txt_search", "bh");
-                           s.fire("cmd_ok", EventType::Click);
-                       }),
-              (std::vector<std::string>{"BHEL", "bharat heavy"}));
-    EXPECT_EQ(d.app.screens().find(search::kName), nullptr);
-
-    EXPECT_EQ(d.lookup(kScripts,
-                       [](search& s) {
-                           s.setText("txt_search", "bp");
-                           pressKey(s, "txt_search", keys::Enter);
-                       }),
-              (std::vector<std::string>{"BPCL", ""}));
-    EXPECT_TRUE(d.lookup(kScripts, [](search& s) { pressKey(s, "txt_search", keys::Escape); }).empty());
-    EXPECT_TRUE(d.lookup(kScripts, [](search& s) { pressKey(s, "DB1", keys::Escape); }).empty());
+    EXPECT_EQ(d.pick("bh", "cmd_ok", 0), (std::vector<std::string>{"BHEL", "bharat heavy"}));
+    EXPECT_EQ(d.pick("bp", "txt_search", keys::Enter), (std::vector<std::string>{"BPCL", ""}));
+    EXPECT_TRUE(d.pick("bp", "txt_search", keys::Escape).empty());
+    EXPECT_TRUE(d.pick("bp", "DB1", keys::Escape).empty());
     EXPECT_TRUE(d.ui.boxes().empty());
 }
 
-TEST(Search, TheSearchColumnIsChosenInTheCombo) {
+TEST(Search, TheSearchColumnIsChosenInTheComboAndNumbersAreSearchedAsTheyRead) {
     LookupDesk d;
-    const auto got = d.lookup(kScripts, [](search& s) {
+    const auto byName = d.lookup(kScripts, [](search& s) {
         EXPECT_EQ(s.control("Combo1").items, (std::vector<std::string>{"ScrCode", "ScrName"}));
-        EXPECT_EQ(s.text("Combo1"), "ScrCode");
-        EXPECT_EQ(s.focused(), "txt_search");
+        EXPECT_EQ(s.text("Combo1") + "|" + s.focused(), "ScrCode|txt_search");
         s.setText("txt_search", "IN");
         s.setText("Combo1", "ScrName");
         s.fire("Combo1", EventType::Click);
@@ -166,13 +140,10 @@ TEST(Search, TheSearchColumnIsChosenInTheCombo) {
         s.setText("txt_search", "BHARAT"); // the names are searched now, case aside
         s.fire("cmd_ok", EventType::Click);
     });
-    EXPECT_EQ(got, (std::vector<std::string>{"BHEL", "bharat heavy"}));
-}
+    EXPECT_EQ(byName, (std::vector<std::string>{"BHEL", "bharat heavy"}));
 
-TEST(Search, NumbersAreSearchedAsTheyRead) {
-    LookupDesk d;
     d.app.store().execute("insert into Users (UserCd, UserNm, Pwd) values ('12', 'RAVI', 'r')");
-    const auto got =
+    const auto byCode =
         d.lookup("SELECT Usernm as [NAME],usercd as [CODE] from users order by usernm", [](search& s) {
             s.setText("Combo1", "CODE");
             s.fire("Combo1", EventType::Click);
@@ -180,7 +151,7 @@ TEST(Search, NumbersAreSearchedAsTheyRead) {
             pressKey(s, "txt_search", 'N');
             pressKey(s, "txt_search", keys::Enter);
         });
-    EXPECT_EQ(got, (std::vector<std::string>{"RAVI", "12"}));
+    EXPECT_EQ(byCode, (std::vector<std::string>{"RAVI", "12"}));
 }
 
 TEST(Search, AnEmptySetSaysSoAndGivesNothing) {
@@ -188,18 +159,5 @@ TEST(Search, AnEmptySetSaysSoAndGivesNothing) {
     bool ran = false;
     EXPECT_TRUE(d.lookup("select * from Charges", [&](search&) { ran = true; }).empty());
     EXPECT_EQ(d.boxLines(), std::vector<std::string>{"No Records|No records found|information"});
-    EXPECT_EQ(d.app.screens().find(search::kName), nullptr);
     EXPECT_TRUE(ran) << "the modal run still starts, on a dialog already gone";
-}
-
-TEST(Search, AQuoteInTheSearchTextIsAnErrorAndTheCursorStays) {
-    LookupDesk d;
-    d.lookup(kScripts, [](search& s) {
-        s.setText("txt_search", "B");
-        s.setText("txt_search", "B'");
-        EXPECT_EQ(s.currentRow(), 3);
-        pressKey(s, "txt_search", keys::Escape);
-    });
-    ASSERT_EQ(d.boxTexts().size(), 1u);
-    EXPECT_EQ(d.boxTexts()[0].rfind("Run-time error", 0), 0u) << d.boxTexts()[0];
 }

@@ -4,6 +4,7 @@
 #include "TestDesk.h"
 
 #include "frame/Form.h"
+#include "tracker/TradeEntryDialog.h"
 
 #include <gtest/gtest.h>
 #include <regex>
@@ -22,6 +23,24 @@ struct EntryDesk : Desk {
     }
     const ShownBox& lastBox() const { return ui.boxes().back(); }
     size_t boxCount() const { return ui.boxes().size(); }
+    // Where the focus is, the text of a field and the boxes shown so far, in one line.
+    std::string fieldState(const Form& f, const std::string& field) const {
+        std::string s = f.focused() + " '" + f.text(field) + "'";
+        for (const std::string& box : boxLines())
+            s += " " + box;
+        return s;
+    }
+    // What a dialog leaves for its opener and the boxes shown so far, in one line; "at the time
+    // shown" when its trade time is the time on its label.
+    std::string handedBack(const TradeEntryDialog& d) const {
+        std::string s = std::string(d.visible() ? "shown" : "hidden") + (d.OK ? " OK" : "") + " units '" +
+                        d.Units + "' traded '" + d.Traded + "'";
+        if (!d.TradeTime.empty())
+            s += d.TradeTime == d.text("LblTime") ? " at the time shown" : " at " + d.TradeTime;
+        for (const std::string& box : boxLines())
+            s += " " + box;
+        return s;
+    }
 
     // A time label reads "hh:mm:ss" of the desk's clock, taken a moment ago.
     void expectClockTime(const std::string& shown) const {

@@ -32,227 +32,141 @@ struct UnderlyingDesk : test::EntryDesk {
     UnderlyingDesk() {
         dlg.setText("TxtUnits", "");
         dlg.setText("TxtTraded", "17012.5");
-        dlg.setValue("Option1(1)", true);
         dlg.showModal();
     }
 };
 
-struct FieldCase {
-    const char* typed;
-    const char* after; // the field's text once left
-    bool refused;      // the "Invalid Entry" box and the focus kept
+// A figure typed and left, and the text it is left with; "!": refused with the "Invalid Entry"
+// box, the field cleared and the focus kept.
+const std::pair<const char*, const char*> kFigureCases[] = {
+    {"", "0"},          {"   ", "0"},   {"12.5", "12.5"}, {" 7 ", " 7 "}, {"-3", "-3"},
+    {"1,000", "1,000"}, {"1e3", "1e3"}, {"abc", "!"},     {"12abc", "!"}, {"1.2.3", "!"},
 };
 
-const FieldCase kFigureCases[] = {
-    {"", "0", false},      {"   ", "0", false}, {"12.5", "12.5", false},
-    {" 7 ", " 7 ", false}, {"-3", "-3", false}, {"1,000", "1,000", false},
-    {"abc", "", true},     {"12abc", "", true}, {"1.2.3", "", true},
-};
-
-const std::vector<std::string> kRefusal{"Invalid Entry|Only Numeric Values allowed here|critical"};
-
-template <class D> void expectFigureChecks(const char* field, const char* next) {
-    for (const FieldCase& c : kFigureCases) {
-        SCOPED_TRACE(std::string(field) + " typed as '" + c.typed + "'");
+template <class D> void expectFigureChecks(const std::string& field, const std::string& next) {
+    for (const auto& [typed, after] : kFigureCases) {
         D d;
-        d.typeAndLeave(d.dlg, field, c.typed, next);
-        EXPECT_EQ(d.dlg.text(field), c.after);
-        EXPECT_EQ(d.boxLines(), c.refused ? kRefusal : std::vector<std::string>{});
-        EXPECT_EQ(d.dlg.focused(), c.refused ? field : next);
+        d.typeAndLeave(d.dlg, field, typed, next);
+        EXPECT_EQ(d.fieldState(d.dlg, field),
+                  *after == '!' ? field + " '' Invalid Entry|Only Numeric Values allowed here|critical"
+                                : next + " '" + after + "'")
+            << field << " typed as '" << typed << "'";
     }
 }
 
 } // namespace
 
-TEST(TradeEntryOption, ComesUpWithTheTimeAndTheFocusOnUnitsAndEnteringAFigureSelectsIt) {
-    OptionDesk d;
-    EXPECT_EQ(d.dlg.caption(), "Option.....Tallimark");
-    EXPECT_TRUE(d.dlg.visible());
-    EXPECT_EQ(d.dlg.focused(), "TxtUnits");
-    d.expectClockTime(d.dlg.text("LblTime"));
-    EXPECT_EQ(d.dlg.text("Label_TxtImpVolF"), "Implied Volatility");
-    EXPECT_EQ(d.dlg.text("lblStrike"), "17000.00 C") << "the caller's series stays as it was set";
-    // Entering a figure selects all of it.
-    d.dlg.moveFocus("TxtTraded");
-    EXPECT_EQ(d.dlg.control("TxtTraded").selStart, 0);
-    EXPECT_EQ(d.dlg.control("TxtTraded").selLength, 6); // "101.25"
-    d.dlg.moveFocus("TxtImpVolF");
-    EXPECT_EQ(d.dlg.control("TxtImpVolF").selLength, 4); // "18.5"
-}
-
-TEST(TradeEntryOption, PremiumAndVolatilityAreCheckedOnLeavingUnitsAreNot) {
+TEST(TradeEntryFigures, EachDialogChecksItsPricesOnLeavingButNotTheOptionUnits) {
     expectFigureChecks<OptionDesk>("TxtTraded", "TxtImpVolF");
     expectFigureChecks<OptionDesk>("TxtImpVolF", "Cmd(0)");
+    expectFigureChecks<UnderlyingDesk>("TxtUnits", "TxtTraded");
+    expectFigureChecks<UnderlyingDesk>("TxtTraded", "Option1(0)");
 
     OptionDesk d;
     d.typeAndLeave(d.dlg, "TxtUnits", "ten", "TxtTraded");
-    EXPECT_EQ(d.dlg.text("TxtUnits"), "ten");
-    EXPECT_EQ(d.boxCount(), 0u);
+    EXPECT_EQ(d.fieldState(d.dlg, "TxtUnits"), "TxtTraded 'ten'");
 }
 
-TEST(TradeEntryOption, LeavingForCancelDoesNotCheckTheAbandonedFigure) {
-    OptionDesk d;
-    d.typeAndLeave(d.dlg, "TxtTraded", "abc", "Cmd(1)");
-    EXPECT_EQ(d.boxCount(), 0u);
-    d.dlg.fire("Cmd(1)", EventType::Click);
-    EXPECT_FALSE(d.dlg.visible());
-}
-
-TEST(TradeEntryOption, OkHandsOnTheTextsAsTypedAndTheVolatilityAsCurrency) {
-    OptionDesk d;
-    d.dlg.setText("TxtUnits", "-50");
-    d.dlg.setText("TxtTraded", "12.346");
-    d.dlg.setText("TxtImpVolF", "18.123456");
-    d.dlg.fire("Cmd(0)", EventType::Click);
-    EXPECT_FALSE(d.dlg.visible());
-    EXPECT_TRUE(d.dlg.OK);
-    EXPECT_EQ(d.dlg.Units, "-50");
-    EXPECT_EQ(d.dlg.Traded, "12.346") << "the option premium is passed unrounded";
-    EXPECT_DOUBLE_EQ(d.dlg.ImpVolF, 18.1235); // four decimals, by hand: 18.12345|6 rounds up
-    EXPECT_EQ(d.dlg.TradeTime, d.dlg.text("LblTime"));
-    EXPECT_EQ(d.boxCount(), 0u);
-}
-
-TEST(TradeEntryOption, EveryWayOfCancellingLeavesTheResultsAlone) {
-    const std::pair<const char*, std::function<void(OptionDesk&)>> ways[] = {
-        {"Cancel button", [](OptionDesk& d) { d.dlg.fire("Cmd(1)", EventType::Click); }},
-        {"Esc in a field", [](OptionDesk& d) { d.key(d.dlg, "TxtTraded", Escape); }},
-        {"Esc on the OK button", [](OptionDesk& d) { d.key(d.dlg, "Cmd(0)", Escape); }},
-        {"Enter on the Cancel button", [](OptionDesk& d) { d.key(d.dlg, "Cmd(1)", Enter); }},
-        {"close box", [](OptionDesk& d) { EXPECT_FALSE(d.dlg.requestClose()); }},
+TEST(TradeEntryOption, OkOrEnterHandsOnTheTextsBeforeAnyCheckAndEveryCancelLeavesTheResultsAlone) {
+    // A key in a control, a click (no key) or the close box (no control). Enter presses OK before
+    // the premium it stands in is left, so "x" passes unchecked; a premium abandoned for Cancel is
+    // not checked either. Nothing rounds the premium; the volatility goes on as currency: four
+    // decimals with ties to even, on ties exact in binary (33/32, 35/32).
+    const struct {
+        const char* control;
+        int key;
+        bool ok;
+        const char *traded, *vol;
+        double impVolF;
+    } cases[] = {
+        {"Cmd(0)", 0, true, "12.346", "18.123456", 18.1235},
+        {"TxtUnits", Enter, true, "x", "1.03125", 1.0312},
+        {"TxtTraded", Enter, true, "x", "1.09375", 1.0938},
+        {"TxtImpVolF", Enter, true, "x", " -18.123456 ", -18.1235},
+        {"Cmd(0)", Enter, true, "x", "0", 0},
+        {"Cmd(1)", 0, false, "abc", "1", 0},
+        {"TxtTraded", Escape, false, "abc", "1", 0},
+        {"Cmd(0)", Escape, false, "abc", "1", 0},
+        {"Cmd(1)", Enter, false, "abc", "1", 0},
+        {"", 0, false, "abc", "1", 0},
     };
-    for (const auto& [way, act] : ways) {
-        SCOPED_TRACE(way);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c.control) + " key " + std::to_string(c.key));
         OptionDesk d;
-        d.dlg.setText("TxtUnits", "25");
-        act(d);
-        EXPECT_FALSE(d.dlg.visible());
-        EXPECT_FALSE(d.dlg.OK);
-        EXPECT_EQ(d.dlg.Units, "");
+        EXPECT_EQ(d.dlg.focused(), "TxtUnits");
+        d.expectClockTime(d.dlg.text("LblTime"));
+        EXPECT_EQ(d.dlg.text("lblStrike"), "17000.00 C") << "the caller's series stays as it was set";
+        d.dlg.setText("TxtUnits", "-50");
+        d.dlg.moveFocus("TxtTraded");
+        const Control& traded = d.dlg.control("TxtTraded");
+        EXPECT_EQ(std::pair(traded.selStart, traded.selLength), std::pair(0, 6)) << "\"101.25\" selected";
+        d.dlg.setText("TxtTraded", c.traded);
+        d.dlg.setText("TxtImpVolF", c.vol);
+        if (!c.ok) d.dlg.moveFocus("Cmd(1)");
+        if (!*c.control)
+            EXPECT_FALSE(d.dlg.requestClose());
+        else if (c.key)
+            d.key(d.dlg, c.control, c.key);
+        else
+            d.dlg.fire(c.control, EventType::Click);
+        EXPECT_EQ(d.handedBack(d.dlg),
+                  c.ok ? "hidden OK units '-50' traded '" + std::string(c.traded) + "' at the time shown"
+                       : "hidden units '' traded ''");
+        EXPECT_DOUBLE_EQ(d.dlg.ImpVolF, c.impVolF);
         EXPECT_EQ(d.app.screens().find(FrmOption::kName), &d.dlg) << "kept loaded for the next trade";
     }
 }
 
-TEST(TradeEntryOption, EnterInAnyFieldPressesOkBeforeTheFieldIsChecked) {
-    for (const char* field : {"TxtUnits", "TxtTraded", "TxtImpVolF", "Cmd(0)"}) {
-        SCOPED_TRACE(field);
+TEST(TradeEntryOption, EnterWithAVolatilityThatIsNoCurrencyFailsAtTheConversion) {
+    for (const auto& [vol, box] : {std::pair{"high", "Run-time error '13':\n\nType mismatch"},
+                                   {"", "Run-time error '13':\n\nType mismatch"},
+                                   {"1e16", "Run-time error '6':\n\nOverflow"}}) {
         OptionDesk d;
-        d.dlg.setText("TxtUnits", "10");
-        d.dlg.moveFocus("TxtTraded");
-        d.dlg.setText("TxtTraded", "x"); // never left, so never checked
-        d.key(d.dlg, field, Enter);
-        EXPECT_TRUE(d.dlg.OK);
-        EXPECT_EQ(d.dlg.Traded, "x");
-        EXPECT_EQ(d.boxCount(), 0u);
+        d.dlg.moveFocus("TxtImpVolF");
+        EXPECT_EQ(d.dlg.control("TxtImpVolF").selLength, 4) << "\"18.5\" selected on entry";
+        d.dlg.setText("TxtImpVolF", vol);
+        d.key(d.dlg, "TxtImpVolF", Enter);
+        EXPECT_EQ(d.boxTexts(), std::vector<std::string>{box}) << vol;
+        EXPECT_TRUE(d.dlg.visible() && !d.dlg.OK) << "the dialog stays up for a better figure";
     }
 }
 
-TEST(TradeEntryOption, EnterWithAVolatilityThatIsNoNumberFailsAtTheCurrencyConversion) {
-    OptionDesk d;
-    d.dlg.setText("TxtUnits", "10");
-    d.dlg.moveFocus("TxtImpVolF");
-    d.dlg.setText("TxtImpVolF", "high");
-    d.key(d.dlg, "TxtImpVolF", Enter);
-    ASSERT_EQ(d.boxCount(), 1u);
-    EXPECT_EQ(d.lastBox().box.text, "Run-time error '13':\n\nType mismatch");
-    EXPECT_FALSE(d.dlg.OK);
-    EXPECT_TRUE(d.dlg.visible()) << "the dialog stays up for a better figure";
-}
-
-TEST(TradeEntryUnderlying, ComesUpOfferingEquityWithZeroUnits) {
-    UnderlyingDesk d;
-    EXPECT_EQ(d.dlg.caption(), "Stock Trade");
-    EXPECT_TRUE(d.dlg.control("Option1(1)").value);
-    EXPECT_FALSE(d.dlg.control("Option1(0)").value);
-    EXPECT_EQ(d.dlg.text("Option1(0)") + d.dlg.text("Option1(1)"), "&Fut/Stk&Equity");
-    EXPECT_EQ(d.dlg.text("TxtUnits"), "0");
-    EXPECT_EQ(d.dlg.focused(), "TxtUnits");
-    EXPECT_EQ(d.dlg.control("TxtUnits").selLength, 1);
-    d.expectClockTime(d.dlg.text("LblTime"));
-
-    // Futures and units typed last time are not remembered, and the 0 is there to type over.
-    d.dlg.setValue("Option1(0)", true);
-    d.dlg.setText("TxtUnits", "25");
-    d.dlg.control("TxtUnits").selLength = 0;
-    d.dlg.fire("Cmd(1)", EventType::Click);
-    d.dlg.showModal();
-    EXPECT_TRUE(d.dlg.control("Option1(1)").value);
-    EXPECT_EQ(d.dlg.text("TxtUnits"), "0");
-    EXPECT_EQ(d.dlg.control("TxtUnits").selLength, 1);
-}
-
-TEST(TradeEntryUnderlying, UnitsAndPriceAreCheckedOnLeaving) {
-    expectFigureChecks<UnderlyingDesk>("TxtUnits", "TxtTraded");
-    expectFigureChecks<UnderlyingDesk>("TxtTraded", "Option1(0)");
-}
-
-TEST(TradeEntryUnderlying, OkRoundsThePriceToThePaisa) {
-    // Worked by hand: two decimals, halves away from zero on the decimal text.
-    const std::pair<const char*, const char*> cases[] = {
-        {"12.346", "12.35"}, {"12.344", "12.34"}, {"2.675", "2.68"},      {"-3.005", "-3.01"},
-        {"100", "100.00"},   {" 7.1 ", "7.10"},   {"1,234.5", "1234.50"}, {"0", "0.00"},
+TEST(TradeEntryUnderlying, ComesUpAfreshEachTimeAndEnterHandsOnThePriceToThePaisaAndTheKindEscNothing) {
+    // Worked by hand: two decimals, halves away from zero on the decimal text. A price that is no
+    // number passes as it stands: Enter presses OK before the field is left and checked.
+    const struct {
+        const char *typed, *passed; // nullptr: nothing handed back
+        bool futures;
+        int key;
+    } cases[] = {
+        {"12.346", "12.35", false, Enter},   {"12.344", "12.34", true, Enter},
+        {"2.675", "2.68", false, Enter},     {"-3.005", "-3.01", false, Enter},
+        {"100", "100.00", false, Enter},     {" 7.1 ", "7.10", false, Enter},
+        {"1,234.5", "1234.50", true, Enter}, {"0", "0.00", false, Enter},
+        {"abc", "abc", true, Enter},         {"12.346", nullptr, true, Escape},
     };
-    for (const auto& [typed, passed] : cases) {
-        SCOPED_TRACE(typed);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.typed);
         UnderlyingDesk d;
+        const auto expectAfresh = [&d] { // equity offered and a 0 to type over, whatever went before
+            EXPECT_TRUE(d.dlg.control("Option1(1)").value && !d.dlg.control("Option1(0)").value);
+            EXPECT_EQ(d.fieldState(d.dlg, "TxtUnits"), "TxtUnits '0'");
+            EXPECT_EQ(d.dlg.control("TxtUnits").selLength, 1);
+            d.expectClockTime(d.dlg.text("LblTime"));
+        };
+        expectAfresh();
+        if (c.futures) d.dlg.setValue("Option1(0)", true);
         d.dlg.setText("TxtUnits", "-4");
-        d.dlg.setText("TxtTraded", typed);
-        d.dlg.fire("Cmd(0)", EventType::Click);
-        EXPECT_TRUE(d.dlg.OK);
-        EXPECT_EQ(d.dlg.Traded, passed);
-        EXPECT_EQ(d.dlg.Units, "-4");
-        EXPECT_FALSE(d.dlg.visible());
+        d.dlg.control("TxtUnits").selLength = 0;
+        // Esc leaves the focus in the units: shown again, they are entered afresh where they stand.
+        if (c.passed) d.dlg.moveFocus("TxtTraded");
+        d.dlg.setText("TxtTraded", c.typed);
+        d.key(d.dlg, "TxtTraded", c.key);
+        EXPECT_EQ(d.handedBack(d.dlg) + " " + d.dlg.CashType,
+                  c.passed ? "hidden OK units '-4' traded '" + std::string(c.passed) +
+                                 "' at the time shown " + (c.futures ? "F" : "Q")
+                           : "hidden units '' traded '' ");
+        d.dlg.showModal();
+        expectAfresh();
     }
-}
-
-TEST(TradeEntryUnderlying, OkNamesTheKindOfTheTrade) {
-    UnderlyingDesk d;
-    d.key(d.dlg, "Option1(1)", Enter);
-    EXPECT_EQ(d.dlg.CashType, "Q");
-    EXPECT_EQ(d.dlg.TradeTime, d.dlg.text("LblTime"));
-
-    d.dlg.OK = false;
-    d.dlg.showModal();
-    d.dlg.setValue("Option1(0)", true);
-    d.dlg.setText("TxtTraded", "abc"); // Enter comes before the check: the text passes as it is
-    d.key(d.dlg, "TxtTraded", Enter);
-    EXPECT_TRUE(d.dlg.OK);
-    EXPECT_EQ(d.dlg.CashType, "F");
-    EXPECT_EQ(d.dlg.Traded, "abc");
-}
-
-TEST(TradeEntryUnderlying, CancelLeavesOkFalseAndTheKindUntouched) {
-    UnderlyingDesk d;
-    d.dlg.setValue("Option1(0)", true);
-    d.key(d.dlg, "TxtUnits", Escape);
-    EXPECT_FALSE(d.dlg.visible());
-    EXPECT_FALSE(d.dlg.OK);
-    EXPECT_EQ(d.dlg.CashType, "");
-    EXPECT_EQ(d.dlg.Traded, "");
-}
-
-TEST(TradeEntryFigures, NumericTestAndCurrencyConversion) {
-    // IsNumeric accepts what CDbl reads; CCur keeps four decimals with ties to even. The ties
-    // chosen are exact in binary (33/32, 35/32) so the rounding rule alone decides them.
-    const std::pair<const char*, bool> numeric[] = {
-        {"12", true}, {" 12.5 ", true}, {"-3", true},   {"1,000", true},  {"1e3", true},
-        {"", false},  {"  ", false},    {"abc", false}, {"12abc", false}, {"1.2.3", false},
-    };
-    for (const auto& [text, expected] : numeric)
-        EXPECT_EQ(IsNumeric(text), expected) << "'" << text << "'";
-
-    EXPECT_DOUBLE_EQ(CCur("1.03125"), 1.0312);
-    EXPECT_DOUBLE_EQ(CCur("1.09375"), 1.0938);
-    EXPECT_DOUBLE_EQ(CCur(" -18.123456 "), -18.1235);
-    auto errorOf = [](const char* text) {
-        try {
-            CCur(text);
-        } catch (const VbError& e) {
-            return e.number();
-        }
-        return 0L;
-    };
-    EXPECT_EQ(errorOf("abc"), vberr::TypeMismatch);
-    EXPECT_EQ(errorOf(""), vberr::TypeMismatch);
-    EXPECT_EQ(errorOf("1e16"), vberr::Overflow);
 }
