@@ -4,15 +4,21 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using namespace tallimark;
 
 namespace {
 
 // Every table that keeps rows of a sheet, with the sheet's key columns in it.
-const std::pair<const char*, const char*> kSheetTables[] = {
-    {"Trans", "InSymbol, InDesc"},    {"PortfolioMast", "Symbol, Descr"}, {"PortfolioDet", "Symbol, Descr"},
-    {"Tracker", "Symbol, InDesc"},    {"DummyTracker", "Symbol, InDesc"}, {"DumUploadFile", "Symbol, InDesc"},
-    {"UploadFile", "Symbol, InDesc"}, {"Closing", "Symbol, Descr"}};
+struct SheetTable {
+    const char *table, *symbol, *desc;
+} const kSheetTables[] = {
+    {"Trans", "InSymbol", "InDesc"},      {"PortfolioMast", "Symbol", "Descr"},
+    {"PortfolioDet", "Symbol", "Descr"},  {"Tracker", "Symbol", "InDesc"},
+    {"DummyTracker", "Symbol", "InDesc"}, {"DumUploadFile", "Symbol", "InDesc"},
+    {"UploadFile", "Symbol", "InDesc"},   {"Closing", "Symbol", "Descr"},
+};
 
 // Three sheets in the store before the main screen loads.
 struct ThreeSheets : test::AdminDesk {
@@ -35,26 +41,23 @@ struct MainDesk : ThreeSheets {
     }
     // A row in each of the other seven tables for the sheet.
     void fillTables(const std::string& symbol, const std::string& desc) {
-        for (const auto& [table, key] : kSheetTables)
+        for (const auto& [table, symbolColumn, descColumn] : kSheetTables)
             if (std::string(table) != "Trans")
-                app.store().execute(std::string("insert into ") + table + " (" + key + ") values (" +
-                                    q(symbol) + ", " + q(desc) + ")");
+                app.store().execute(std::string("insert into ") + table + " (" + symbolColumn + ", " +
+                                    descColumn + ") values (" + q(symbol) + ", " + q(desc) + ")");
     }
     std::vector<long long> rowsOf(const std::string& symbol, const std::string& desc) {
         std::vector<long long> n;
-        for (const auto& [table, key] : kSheetTables) {
-            const std::string k(key);
-            const std::string descColumn = k.substr(k.find(", ") + 2);
-            n.push_back(count(std::string("select count(*) from ") + table + " where " +
-                              k.substr(0, k.find(',')) + " = " + q(symbol) + " and " + descColumn + " = " +
-                              q(desc)));
-        }
+        for (const auto& [table, symbolColumn, descColumn] : kSheetTables)
+            n.push_back(count(std::string("select count(*) from ") + table + " where " + symbolColumn +
+                              " = " + q(symbol) + " and " + descColumn + " = " + q(desc)));
         return n;
     }
-    std::vector<std::string> symbols() {
+    // The list's rows, each as "symbol|description|refresh date".
+    std::vector<std::string> rows() {
         std::vector<std::string> s;
         for (int r = 1; r <= list.maxRows(); ++r)
-            s.push_back(list.text(r, 2));
+            s.push_back(list.text(r, 1) + "|" + list.text(r, 2) + "|" + list.text(r, 3));
         return s;
     }
 };
@@ -65,28 +68,16 @@ TEST(MainScreen, ListsEverySheetWithItsRefreshDate) {
     MainDesk d;
     d.addSheet("  ABK2026 ", "padded", "S", "2026-11-23");
     d.m.PopulateLView();
-    EXPECT_TRUE(d.list.checkBoxes);
-    EXPECT_EQ(d.list.column(1).heading, "Symbol");
-    EXPECT_EQ(d.list.column(2).heading, "Description");
-    EXPECT_EQ(d.list.column(3).heading, "Refresh Date");
-    const std::vector<std::vector<std::string>> expected = {{"RILK2026", "NOVEMBER For A", "20-11-2026"},
-                                                            {"RILK2026", "NOVEMBER For B", "21-11-2026"},
-                                                            {"NIFX2026", "NIFTY For C", "22-11-2026"},
-                                                            {"ABK2026", "padded", "23-11-2026"}};
-    ASSERT_EQ(d.list.maxRows(), 4);
-    for (int r = 1; r <= 4; ++r)
-        for (int c = 1; c <= 3; ++c)
-            EXPECT_EQ(d.list.text(r, c), expected[r - 1][c - 1]) << r << "," << c;
+    EXPECT_EQ(d.rows(), (std::vector<std::string>{
+                            "RILK2026|NOVEMBER For A|20-11-2026", "RILK2026|NOVEMBER For B|21-11-2026",
+                            "NIFX2026|NIFTY For C|22-11-2026", "ABK2026|padded|23-11-2026"}));
     EXPECT_EQ(d.list.activeRow, 1);
-    EXPECT_TRUE(d.m.control("Cmd(1)").enabled);
-    EXPECT_TRUE(d.m.control("Cmd(3)").enabled);
 }
 
 TEST(MainScreen, AnEmptyStoreGivesAnEmptyList) {
     test::AdminDesk d;
     FrmNewMainScreen& m = d.mainScreen();
-    EXPECT_EQ(m.grid("ListView1").maxRows(), 0);
-    EXPECT_EQ(m.grid("ListView1").activeRow, 0);
+    EXPECT_EQ(std::tuple(m.grid("ListView1").maxRows(), m.grid("ListView1").activeRow), std::tuple(0, 0));
     m.fire("Cmd(3)", EventType::Click); // nothing to delete, nothing asked
     m.fire("Cmd(1)", EventType::Click); // no current sheet, nothing opens
     EXPECT_TRUE(d.ui.boxes().empty());
@@ -97,9 +88,7 @@ TEST(MainScreen, AClickMakesTheCurrentSheetAndOpenLoadsItOnItsTypesScreen) {
     MainDesk d;
     d.click(2);
     const Session& s = d.app.session();
-    EXPECT_EQ(s.g_strSymbol, "RILK2026");
-    EXPECT_EQ(s.g_strDesc, "NOVEMBER For B");
-    EXPECT_EQ(s.gRefreshDate, "21-11-2026");
+    EXPECT_EQ(s.g_strSymbol + "|" + s.g_strDesc + "|" + s.gRefreshDate, "RILK2026|NOVEMBER For B|21-11-2026");
 
     d.m.fire("Cmd(1)", EventType::Click);
     EXPECT_EQ(s.gOpenMode, 1);
@@ -121,112 +110,95 @@ TEST(MainScreen, AClickMakesTheCurrentSheetAndOpenLoadsItOnItsTypesScreen) {
     EXPECT_TRUE(d.ui.boxes().empty());
 }
 
-TEST(MainScreen, DeleteAsksAndClearsEveryTableOfOneSheetOnly) {
+TEST(MainScreen, DeleteAsksAndClearsEveryTableOfOneSheetOnlyAndTheListFollows) {
     MainDesk d;
-    d.fillTables("RILK2026", "NOVEMBER For A");
-    d.fillTables("RILK2026", "NOVEMBER For B");
+    for (const char* desc : {"NOVEMBER For A", "NOVEMBER For B"})
+        d.fillTables("RILK2026", desc);
+    d.fillTables("NIFX2026", "NIFTY For C");
     const std::vector<long long> whole(8, 1);
     ASSERT_EQ(d.rowsOf("RILK2026", "NOVEMBER For B"), whole);
+    d.list.setChecked(3, true);
 
     d.click(2);
     d.ui.queueAnswer(MsgAnswer::No);
     d.m.fire("Cmd(3)", EventType::Click);
-    EXPECT_EQ(d.boxTexts(), std::vector<std::string>{"Are you sure you wish to delete record?"});
-    EXPECT_EQ(d.ui.boxes()[0].box.title, "Delete Record");
+    EXPECT_EQ(d.boxLines(),
+              std::vector<std::string>{"Delete Record|Are you sure you wish to delete record?|question"});
     EXPECT_EQ(d.ui.boxes()[0].box.buttons, MsgButtons::YesNo);
     EXPECT_EQ(d.rowsOf("RILK2026", "NOVEMBER For B"), whole);
     EXPECT_EQ(d.list.maxRows(), 3);
 
-    d.ui.queueAnswer(MsgAnswer::Yes);
-    d.m.fire("Cmd(3)", EventType::Click);
+    d.m.fire("Cmd(3)", EventType::Click); // the first button, Yes, answers from here on
     EXPECT_EQ(d.rowsOf("RILK2026", "NOVEMBER For B"), std::vector<long long>(8, 0));
     EXPECT_EQ(d.rowsOf("RILK2026", "NOVEMBER For A"), whole);
-    EXPECT_EQ(d.symbols(), (std::vector<std::string>{"NOVEMBER For A", "NIFTY For C"}));
+    EXPECT_EQ(d.rows(), (std::vector<std::string>{"RILK2026|NOVEMBER For A|20-11-2026",
+                                                  "NIFX2026|NIFTY For C|22-11-2026"}));
     EXPECT_EQ(d.list.activeRow, 1) << "the item before the deleted one";
-}
+    EXPECT_TRUE(d.list.checked(2) && !d.list.checked(1)) << "a tick moves with its row";
 
-TEST(MainScreen, TheSelectionMovesAndTheLastDeleteEmptiesTheList) {
-    MainDesk d;
-    d.list.setChecked(2, true);
-    d.click(1);
-    d.m.fire("Cmd(3)", EventType::Click); // the first button, Yes, answers
-    EXPECT_EQ(d.symbols(), (std::vector<std::string>{"NOVEMBER For B", "NIFTY For C"}));
-    EXPECT_TRUE(d.list.checked(1)) << "a tick moves with its row";
-    EXPECT_EQ(d.list.activeRow, 1);
-    d.m.fire("Cmd(3)", EventType::Click);
-    d.m.fire("Cmd(3)", EventType::Click);
-    EXPECT_EQ(d.list.maxRows(), 0);
-    EXPECT_EQ(d.list.activeRow, 0);
-    EXPECT_EQ(d.transRows(), 0);
-}
-
-TEST(MainScreen, ADateThatDoesNotMatchLeavesTheSheetsOwnRow) {
-    MainDesk d;
-    d.fillTables("NIFX2026", "NIFTY For C");
-    d.list.setText(3, 3, "01-01-2020");
-    d.click(3);
+    // A listed date that does not match the sheet's leaves its own row, and only that.
+    d.list.setText(2, 3, "01-01-2020");
+    d.click(2);
     d.m.fire("Cmd(3)", EventType::Click);
     EXPECT_EQ(d.rowsOf("NIFX2026", "NIFTY For C"), (std::vector<long long>{1, 0, 0, 0, 0, 0, 0, 0}));
-    EXPECT_EQ(d.list.maxRows(), 2) << "gone from the list until it is drawn again";
+    EXPECT_EQ(d.list.maxRows(), 1) << "gone from the list until it is drawn again";
     d.m.PopulateLView();
-    EXPECT_EQ(d.list.maxRows(), 3);
+    EXPECT_EQ(d.list.maxRows(), 2);
+
+    // The first item deleted leaves the new first selected; the last empties the list.
+    d.click(1);
+    d.m.fire("Cmd(3)", EventType::Click);
+    EXPECT_EQ(d.rows(), std::vector<std::string>{"NIFX2026|NIFTY For C|22-11-2026"});
+    EXPECT_EQ(d.list.activeRow, 1);
+    d.m.fire("Cmd(3)", EventType::Click);
+    EXPECT_EQ(std::tuple(d.list.maxRows(), d.list.activeRow, d.transRows()), std::tuple(0, 0, 0LL));
 }
 
-TEST(MainScreen, PositionFileTakesTheTickedRows) {
+TEST(MainScreen, PositionFileAndTwoContractTakeTheTickedRows) {
+    // Two ticked sheets of different types: TwoContract.SheetsOfTwoTypesAreRefused.
     MainDesk d;
+    auto& comparison = d.app.screens().get<test::TwoContractStandIn>();
     d.m.show();
     d.m.fire("Command2", EventType::Click);
     EXPECT_EQ(d.boxLines(), std::vector<std::string>{"Data Error|Please select the Scripts from the grid "
                                                      "whose \"pon\" file is to be created.|information"});
     EXPECT_EQ(d.m.focused(), "ListView1");
     EXPECT_TRUE(d.m.visible());
+    d.ui.clearBoxes();
 
     d.list.setChecked(1, true);
+    d.m.fire("CmdTwoContract", EventType::Click);
+    EXPECT_EQ(d.takeBoxes(), std::vector<std::string>{"Please select two Scripts from the grid to compare."});
+
     d.list.setChecked(3, true);
     d.m.fire("Command2", EventType::Click);
     // Indices 0 to N-1 hold the ticked rows; the upper bound is N+1.
     const Session& s = d.app.session();
     EXPECT_EQ(s.gPonSymbols, (std::vector<std::string>{"RILK2026", "NIFX2026", "", ""}));
     EXPECT_EQ(s.gPonDescs, (std::vector<std::string>{"NOVEMBER For A", "NIFTY For C", "", ""}));
-    EXPECT_FALSE(d.m.visible());
-    EXPECT_TRUE(d.app.screens().find("FrmCreatePon")->visible());
-}
-
-TEST(MainScreen, TwoContractWantsTwoSheetsOfOneType) {
-    MainDesk d;
-    auto& comparison = d.app.screens().get<test::TwoContractStandIn>();
-    d.list.setChecked(1, true);
-    d.m.fire("CmdTwoContract", EventType::Click);
-    EXPECT_EQ(d.takeBoxes(), std::vector<std::string>{"Please select two Scripts from the grid to compare."});
-    d.list.setChecked(3, true);
-    d.m.fire("CmdTwoContract", EventType::Click);
-    EXPECT_EQ(d.takeBoxes(), std::vector<std::string>{"Selected Types of Portfolios not same"});
-    EXPECT_EQ(comparison.inits, 0);
+    EXPECT_TRUE(!d.m.visible() && d.app.screens().find("FrmCreatePon")->visible()) << "handed over";
 
     d.list.setChecked(2, true);
     d.m.fire("CmdTwoContract", EventType::Click);
     EXPECT_EQ(d.takeBoxes(), std::vector<std::string>{"Run-time error '9':\n\nSubscript out of range"});
-
+    EXPECT_EQ(comparison.inits, 0);
     d.list.setChecked(3, false);
     d.m.fire("CmdTwoContract", EventType::Click);
     EXPECT_TRUE(d.ui.boxes().empty());
-    EXPECT_EQ(comparison.inits, 1);
-    EXPECT_EQ(comparison.Descr1, "NOVEMBER For A");
-    EXPECT_EQ(comparison.Descr2, "NOVEMBER For B");
-    EXPECT_EQ(comparison.RefreshDt2, "21-11-2026");
-    EXPECT_TRUE(comparison.visible());
+    EXPECT_TRUE(comparison.inits == 1 && comparison.visible());
+    EXPECT_EQ(comparison.Symbol1 + "|" + comparison.Descr1 + "|" + comparison.RefreshDt1 + "|" +
+                  comparison.Symbol2 + "|" + comparison.Descr2 + "|" + comparison.RefreshDt2,
+              "RILK2026|NOVEMBER For A|20-11-2026|RILK2026|NOVEMBER For B|21-11-2026");
 }
 
 TEST(MainScreen, ExitAndLoadSpanHideQuitOrEscEndsTheProgram) {
     MainDesk d;
     d.m.show();
     d.m.fire("Command1", EventType::Click);
-    EXPECT_FALSE(d.m.visible());
-    EXPECT_TRUE(d.app.storeOpen());
+    EXPECT_TRUE(!d.m.visible() && d.app.storeOpen()) << "Exit only hides";
     d.m.show();
-    d.m.fire("Command3", EventType::Click); // Load Span hands over to its own screen
-    EXPECT_FALSE(d.m.visible());
-    EXPECT_TRUE(d.app.screens().find("FrmSpan_Load")->visible());
+    d.m.fire("Command3", EventType::Click);
+    EXPECT_TRUE(!d.m.visible() && d.app.screens().find("FrmSpan_Load")->visible()) << "Load Span hands over";
 
     EXPECT_THROW(test::pressKey(d.m, "Cmd(1)", keys::Escape), ProgramEnd);
     EXPECT_FALSE(d.app.storeOpen());

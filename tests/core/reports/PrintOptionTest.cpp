@@ -51,29 +51,27 @@ std::vector<std::string> printed(const ReportDocument& doc) {
     return out;
 }
 
+// A choice on the screen: print kind, depth, "as on date", the date range.
+struct Choice {
+    int kind, depth;
+    bool asOnDate;
+    const char* from;
+    const char* to;
+};
 // Chooses on the screen as the desk does and prints; the boxes shown when nothing printed.
-std::vector<std::string> print(test::Desk& desk, int kind, int depth, bool asOnDate, const char* from,
-                               const char* to) {
+std::vector<std::string> print(test::Desk& desk, const Choice& c) {
     auto& form = desk.app.screens().get<FrmPrintOption>();
     form.show();
-    form.setValue("Option2(" + std::to_string(kind) + ")", true);
-    form.setValue("Option1(" + std::to_string(depth) + ")", true);
-    form.setValue("Check1", asOnDate);
-    form.setText("DTPicker1", from);
-    form.setText("DTPicker2", to);
+    form.setValue("Option2(" + std::to_string(c.kind) + ")", true);
+    form.setValue("Option1(" + std::to_string(c.depth) + ")", true);
+    form.setValue("Check1", c.asOnDate);
+    form.setText("DTPicker1", c.from);
+    form.setText("DTPicker2", c.to);
     const size_t before = desk.ui.reports().size();
     form.fire("Cmd(0)", EventType::Click);
     if (desk.ui.reports().size() == before) return desk.boxTexts();
     return printed(desk.ui.reports().back());
 }
-
-struct Case {
-    int kind, depth;
-    bool asOnDate;
-    const char* from;
-    const char* to;
-    std::vector<std::string> lines; // lines the report holds, in this order
-};
 
 void expectInOrder(const std::vector<std::string>& got, const std::vector<std::string>& want) {
     auto at = got.begin();
@@ -89,13 +87,10 @@ TEST(PrintOption, EachChoiceRunsItsReportWithItsRowsTotalsAndValues) {
     desk.app.session().g_strSymbol = "NIFX2026";
     desk.app.session().g_strDesc = "NOV";
     const char *from = "20-Nov-2026", *to = "21-Nov-2026";
-    const Case cases[] = {
+    // Each choice with the lines its report holds, in this order.
+    const std::pair<Choice, std::vector<std::string>> cases[] = {
         // The full sheet: open positions only; the closing of the sheet's date (30-11 less 7 days).
-        {2,
-         1,
-         false,
-         from,
-         to,
+        {{2, 1, false, from, to},
          {"Risk Management Sheet", "Sheet NIFX2026   NOV", "18,000.00|C|50|||||25.00||||||",
           "18,100.00|P|-25|||||-10.00||||||", "Total||25|||||15.00||0.00||0.00||0.00", "Balance|1,234.50",
           "10% up, at 19800|500.00",
@@ -104,54 +99,30 @@ TEST(PrintOption, EachChoiceRunsItsReportWithItsRowsTotalsAndValues) {
           "Equity average price|500.00", "Future margin|67,250.00", "Today's expenses|-100.00",
           "Expenses|900.00", "Limit (crores)|50.00", "First gamma|0.5", "Second gamma|0.8",
           "Last gamma|1.2"}},
-        {0,
-         0,
-         false,
-         from,
-         to,
+        {{0, 0, false, from, to},
          {"Call / Put Summary", "Trades from 20-Nov-2026 to 21-Nov-2026", "20-11-2026",
           "18,000.00|C|50|0|-5,000.00", "18,100.00|P|0|-25|2,000.00", "Total 20-11-2026||50|-25|-3,000.00",
           "21-11-2026", "18,000.00|C|10|0|-1,200.00", "Total||60|-25|-4,200.00"}},
         // As on date: every day, by strike.
-        {0,
-         0,
-         true,
-         from,
-         to,
+        {{0, 0, true, from, to},
          {"Call / Put Summary as on Date", "18,000.00|C|60|0|-6,200.00", "18,100.00|P|0|-20|1,550.00",
           "Total||60|-20|-4,650.00"}},
-        {0,
-         1,
-         false,
-         from,
-         to,
+        {{0, 1, false, from, to},
          {"Call / Put Detail", "20-11-2026", "18,000.00|C|50|100.00|-5,000.00",
           "18,100.00|P|-25|80.00|2,000.00", "Total 20-11-2026||||-3,000.00", "Total||||-4,200.00"}},
-        {1,
-         0,
-         false,
-         from,
-         "23-Nov-2026",
+        {{1, 0, false, from, "23-Nov-2026"},
          {"Future / Stock Summary", "20-11-2026|50|0|-9,00,000.00", "21-11-2026|-20|0|3,62,000.00",
           "23-11-2026|0|10|-5,000.00", "Total|30|10|-5,43,000.00"}},
-        {1,
-         1,
-         false,
-         from,
-         "23-Nov-2026",
+        {{1, 1, false, from, "23-Nov-2026"},
          {"Future / Stock Detail", "20-11-2026", "Future|50||18,000.00|-9,00,000.00",
           "Total 20-11-2026|50|0||-9,00,000.00", "Stock||10|500.00|-5,000.00", "Total|30|10||-5,43,000.00"}},
         // A range without trades, a sheet without positions, a script without limits.
-        {0,
-         1,
-         false,
-         "01-Nov-2026",
-         "02-Nov-2026",
+        {{0, 1, false, "01-Nov-2026", "02-Nov-2026"},
          {"Call / Put Detail", "No option trades in this date range."}},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.lines[0]);
-        expectInOrder(print(desk, c.kind, c.depth, c.asOnDate, c.from, c.to), c.lines);
+    for (const auto& [choice, lines] : cases) {
+        SCOPED_TRACE(lines[0]);
+        expectInOrder(print(desk, choice), lines);
     }
 
     desk.app.store().execute("insert into PortfolioMast(Symbol, Descr, MktPrice, Days, ExpDt) "
@@ -160,12 +131,12 @@ TEST(PrintOption, EachChoiceRunsItsReportWithItsRowsTotalsAndValues) {
     // Limits left blank in the script master are kept as 0.
     desk.app.store().execute("insert into ScriptMast(ScrCode, Limit_Cr, First_Gamma, Week_Gamma) "
                              "values ('ABC', 0, '0', '0')");
-    expectInOrder(print(desk, 2, 0, true, from, to),
+    expectInOrder(print(desk, {2, 0, true, from, to}),
                   {"Sheet ABCX2026   NOV", "Market price 10   Days 7   Expiry 30-11-2026   Date ",
                    "The sheet holds no open positions.", "Future/Stock units|0",
                    "Limit (crores)|not set for this script", "Last gamma|not set for this script"});
     desk.app.session().g_strDesc = "DEC";
-    EXPECT_EQ(print(desk, 2, 0, true, from, to).back().rfind("Error in PrintRecords1 procedure: ", 0), 0u);
+    EXPECT_EQ(print(desk, {2, 0, true, from, to}).back().rfind("Error in PrintRecords1 procedure: ", 0), 0u);
 }
 
 TEST(ReportData, TheButtonsFillTheWorkTablesAndShowTheirReports) {
@@ -199,8 +170,8 @@ TEST(PrintOption, LoadsWithSummaryCallPutAsOnDateAndTheDepthSetsTheTick) {
     test::Desk desk;
     auto& form = desk.app.screens().get<FrmPrintOption>();
     form.show();
-    EXPECT_TRUE(form.control("Option1(0)").value && form.control("Option2(0)").value);
-    EXPECT_TRUE(form.control("Check1").value);
+    EXPECT_TRUE(form.control("Option1(0)").value && form.control("Option2(0)").value &&
+                form.control("Check1").value);
     EXPECT_EQ(form.text("DTPicker1"), "23-Nov-2026");
     form.setValue("Option1(1)", true);
     EXPECT_FALSE(form.control("Check1").value);

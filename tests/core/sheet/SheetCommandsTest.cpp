@@ -15,8 +15,7 @@ namespace {
 const Rgb kRed = RGB(255, 0, 0), kCyan = RGB(0, 255, 255);
 
 struct CommandDesk : test::SheetDesk {
-    RiskSheet& stock() { return test::openSavedScenario(*this, SheetKind::Stock); }
-    RiskSheet& index() { return test::openSavedScenario(*this, SheetKind::Index); }
+    RiskSheet& sheet(SheetKind kind) { return test::openSavedScenario(*this, kind); }
 
     static void key(Form& form, int keyCode, int shift = 0) {
         test::pressKey(form, "TxtNet", keyCode, shift);
@@ -57,12 +56,13 @@ TEST(SheetCommands, AltLettersOpenTheScreensOfTheirSheetKind) {
         {'G', "FrmListGraph", "FrmListGraph"},   {'P', "FrmPrintOption", "FrmPrintOption"},
     };
     for (const Case& c : cases)
-        for (bool onIndex : {false, true}) {
+        for (SheetKind kind : {SheetKind::Stock, SheetKind::Index}) {
             CommandDesk d;
-            RiskSheet& s = onIndex ? d.index() : d.stock();
+            RiskSheet& s = d.sheet(kind);
             d.app.session().g_strSymbol = "OTHER"; // a click on the main screen's list meanwhile
             CommandDesk::key(s, c.letter, keys::AltMask);
-            EXPECT_TRUE(shownScreen(d.app, onIndex ? c.indexScreen : c.stockScreen)) << c.letter << onIndex;
+            EXPECT_TRUE(shownScreen(d.app, kind == SheetKind::Index ? c.indexScreen : c.stockScreen))
+                << c.letter;
             EXPECT_EQ(d.app.session().g_strSymbol, s.OwnSymbol) << "the screen opens on its own sheet";
             d.app.session().g_strSymbol = "OTHER";
             s.fire("Form", EventType::Activate);
@@ -79,187 +79,134 @@ TEST(SheetCommands, KeysMoveTheFocus) {
                  {'E', keys::AltMask, "va1"},       {keys::F3, 0, "va1"}};
     for (const Case& c : cases) {
         CommandDesk d;
-        RiskSheet& s = d.stock();
+        RiskSheet& s = d.sheet(SheetKind::Stock);
         s.moveFocus("TxtNet");
         CommandDesk::key(s, c.key, c.shift);
         EXPECT_EQ(s.focused(), c.focus) << c.key;
     }
 }
 
-TEST(SheetCommands, OptionOnABlankRowIsRefused) {
+TEST(SheetCommands, OptionOnABlankRowIsRefusedAndACancelledEntryLeavesTheSheetAsItStood) {
     CommandDesk d;
-    RiskSheet& s = d.stock();
+    RiskSheet& s = d.sheet(SheetKind::Stock);
     s.va1().activeRow = 1; // the heading row holds no strike
     CommandDesk::key(s, keys::F1);
     EXPECT_EQ(d.boxLines(), std::vector<std::string>{"Error|Pls Select the Call/Put Value|critical"});
     EXPECT_FALSE(shownScreen(d.app, "FrmOption"));
-}
 
-TEST(SheetCommands, AnOptionTradeNetsIntoItsRowAndGoesToTheLedger) {
-    // Row 4 of the saved stock sheet is 980 C holding 15 at 21 (SheetScenarios.h).
-    struct Case {
-        const char* units;
-        const char* traded;
-        const char* unitsCell; // column 3 after the trade
-        const char* tradedCell;
-        std::optional<Rgb> fore;
-    } cases[] = {
-        // The averages by hand from the ledger's 10 at 20 and 5 at 23: (200 + 115 + 112.5) / 20 and
-        // (200 + 115 - 380) / -5.
-        {"5", "22.5", "20", "21.38", kCyan},
-        {"-20", "19", "-5", "13", kRed},
-        {"-15", "18", "0", "", std::nullopt}, // closed out: the trade is kept
-    };
-    for (const Case& c : cases) {
-        CommandDesk d;
-        RiskSheet& s = d.stock();
-        const double before = d.ledger("Strike = 980 and CP = 'C'");
-        s.va1().activeRow = 4;
-        d.answerEntry({{"TxtUnits", c.units}, {"TxtTraded", c.traded}});
-        s.fire("Toolbar1(2)", EventType::Click);
-        EXPECT_EQ(d.shown["lblStrike"], "980.00 C");
-        EXPECT_EQ(d.shown["TxtImpVolF"], s.va1().text(4, 6)) << "the row's volatility";
-        EXPECT_EQ(s.va1().text(4, 3), c.unitsCell) << c.units;
-        EXPECT_EQ(s.va1().text(4, 4), c.tradedCell);
-        if (c.fore) {
-            EXPECT_EQ(s.va1().cell(4, 3).fore, c.fore);
-        }
-        EXPECT_EQ(d.ledger("Strike = 980 and CP = 'C'"), before + 1);
-        EXPECT_EQ(d.ledger("Strike = 980 and CP = 'C' and Units = " + std::string(c.units) +
-                           " and Traded = " + c.traded),
-                  1);
-        EXPECT_FALSE(d.app.screens().get<FrmOption>().OK) << "the sheet clears the flag it took";
-    }
-}
-
-TEST(SheetCommands, ACancelledEntryLeavesTheSheetAsItStood) {
-    CommandDesk d;
-    RiskSheet& s = d.stock();
     s.va1().activeRow = 4;
     const double before = d.ledger("1 = 1");
-    d.answerEntry({{"TxtUnits", "7"}}, "Cmd(1)");
-    s.fire("Toolbar1(2)", EventType::Click);
-    d.answerEntry({{"TxtUnits", "7"}}, "Cmd(1)");
-    s.fire("Toolbar1(3)", EventType::Click);
+    for (const char* entry : {"Toolbar1(2)", "Toolbar1(3)"}) {
+        d.answerEntry({{"TxtUnits", "7"}}, "Cmd(1)");
+        s.fire(entry, EventType::Click);
+    }
     EXPECT_EQ(s.va1().text(4, 3), "15");
     EXPECT_EQ(d.ledger("1 = 1"), before);
 }
 
-TEST(SheetCommands, TheIndexSheetPresetsTheSideVolatility) {
-    // The saved index sheet's volatilities: 20 for calls, 22 for puts; rows 2 and 3 are 5800 C and P.
-    for (int row : {2, 3}) {
+TEST(SheetCommands, AnOptionTradeNetsIntoItsRowAndGoesToTheLedger) {
+    // Row 4 of the saved stock sheet is 980 C holding 15 at 21, priced at 30 (SheetScenarios.h);
+    // the saved index sheet prices calls at 20 and puts at 22, and its rows 2 and 3 hold nothing.
+    struct Case {
+        SheetKind kind;
+        int row;
+        const char *units, *traded;
+        const char* dialog;   // the strike and the volatility the entry came up with
+        const char* cells;    // columns 3 and 4 after the trade
+        const char* strikeCp; // the ledger rows of the series
+        std::optional<Rgb> fore;
+    } cases[] = {
+        // The averages by hand from the ledger's 10 at 20 and 5 at 23: (200 + 115 + 112.5) / 20 and
+        // (200 + 115 - 380) / -5.
+        {SheetKind::Stock, 4, "5", "22.5", "980.00 C|30", "20|21.38", "980 and CP = 'C'", kCyan},
+        {SheetKind::Stock, 4, "-20", "19", "980.00 C|30", "-5|13", "980 and CP = 'C'", kRed},
+        {SheetKind::Stock, 4, "-15", "18", "980.00 C|30", "0|", "980 and CP = 'C'", {}}, // closed out
+        {SheetKind::Index, 2, "10", "40", "5800.00 C|20", "10|40", "5800 and CP = 'C'", kCyan},
+        {SheetKind::Index, 3, "10", "40", "5800.00 P|22", "10|40", "5800 and CP = 'P'", kCyan},
+    };
+    for (const Case& c : cases) {
         CommandDesk d;
-        RiskSheet& s = d.index();
-        s.va1().activeRow = row;
-        d.answerEntry({{"TxtUnits", "10"}, {"TxtTraded", "40"}});
+        RiskSheet& s = d.sheet(c.kind);
+        SCOPED_TRACE(std::string(c.dialog) + " " + c.units);
+        const std::string series = "Strike = " + std::string(c.strikeCp);
+        const double before = d.ledger(series);
+        s.va1().activeRow = c.row;
+        d.answerEntry({{"TxtUnits", c.units}, {"TxtTraded", c.traded}});
         s.fire("Toolbar1(2)", EventType::Click);
-        EXPECT_EQ(d.shown["TxtImpVolF"], row == 2 ? "20" : "22");
-        EXPECT_EQ(s.va1().text(row, 3), "10");
-        EXPECT_EQ(d.ledger("Strike = 5800 and Units = 10"), 1);
+        EXPECT_EQ(d.shown["lblStrike"] + "|" + d.shown["TxtImpVolF"], c.dialog);
+        EXPECT_EQ(s.va1().text(c.row, 3) + "|" + s.va1().text(c.row, 4), c.cells);
+        EXPECT_EQ(c.fore ? s.va1().cell(c.row, 3).fore : std::nullopt, c.fore) << "the position's colour";
+        EXPECT_EQ(d.ledger(series), before + 1) << "the closing trade is kept too";
+        EXPECT_EQ(d.ledger(series + " and Units = " + c.units + " and Traded = " + c.traded), 1);
+        EXPECT_FALSE(d.app.screens().get<FrmOption>().OK) << "the sheet clears the flag it took";
     }
 }
 
 TEST(SheetCommands, AnUnderlyingTradeSetsThePositionFieldsAndTheLedger) {
-    for (bool onIndex : {false, true}) {
+    for (SheetKind kind : {SheetKind::Stock, SheetKind::Index}) {
         CommandDesk d;
-        RiskSheet& s = onIndex ? d.index() : d.stock();
+        RiskSheet& s = d.sheet(kind);
         const std::string price = s.text("TxtMktPrice");
         d.answerEntry({{"TxtUnits", "4"}, {"TxtTraded", "1001.234"}});
         CommandDesk::key(s, keys::F2);
         EXPECT_EQ(d.shown["TxtTraded"], price) << "preset with the market price";
         EXPECT_EQ(s.CashTypeNow, "Q") << "equity is the default kind";
-        EXPECT_EQ(d.ledger("CP = 'S' and Units = 4 and Traded = 1001.23 and CashType = 'Q'"), 1) << onIndex;
+        EXPECT_EQ(d.ledger("CP = 'S' and Units = 4 and Traded = 1001.23 and CashType = 'Q'"), 1)
+            << s.OwnSymbol;
         EXPECT_FALSE(d.app.screens().get<FrmUnderlying>().OK);
     }
 }
 
-TEST(SheetCommands, TheCloseAsksOnlyWhenBothFiguresMoved) {
+TEST(SheetCommands, EveryCloseAsksOnlyWhenBothFiguresMoved) {
+    // The toolbar's Exit, its menu entry, Esc and the window's close box run the one close. Asked,
+    // Yes saves and Yes or No hide the screen for the next sheet; unasked, the screen goes.
+    enum Route { Toolbar, Menu, Esc, CloseBox };
     struct Case {
         bool neutralMoved, balanceMoved;
         std::optional<MsgAnswer> answer; // nothing: no question
-        bool stays;                      // the screen is kept loaded (hidden unless cancelled)
-        bool visible;
-        bool saved;
     } cases[] = {
-        {true, true, MsgAnswer::Yes, true, false, true},    {true, true, MsgAnswer::No, true, false, false},
-        {true, true, MsgAnswer::Cancel, true, true, false}, {true, false, std::nullopt, false, false, false},
-        {false, true, std::nullopt, false, false, false},
+        {true, true, MsgAnswer::Yes}, {true, true, MsgAnswer::No}, {true, true, MsgAnswer::Cancel},
+        {true, false, std::nullopt},  {false, true, std::nullopt},
     };
-    for (const Case& c : cases) {
-        CommandDesk d;
-        RiskSheet& s = d.stock();
-        d.app.store().execute("delete from PortfolioDet");
-        s.SavedDelNeutral = c.neutralMoved ? "different" : Trim(s.text("txtdelneutral"));
-        s.SavedBalance = c.balanceMoved ? "different" : Trim(s.text("TxtBalance"));
-        if (c.answer) d.ui.queueAnswer(*c.answer);
-        s.fire("Toolbar1(10)", EventType::Click);
-        ASSERT_EQ(d.ui.boxes().size(), c.answer ? 1u : 0u);
-        if (c.answer) {
-            EXPECT_EQ(d.ui.boxes()[0].box.text, "Do you wish to Save the Changes?");
-            EXPECT_EQ(d.ui.boxes()[0].box.title, "Exit");
-            EXPECT_EQ(d.ui.boxes()[0].box.buttons, MsgButtons::YesNoCancel);
-            EXPECT_EQ(d.ui.boxes()[0].box.icon, MsgIcon::Question);
+    const std::vector<std::string> question = {"Exit|Do you wish to Save the Changes?|question"};
+    for (const Case& c : cases)
+        for (Route route : {Toolbar, Menu, Esc, CloseBox}) {
+            SCOPED_TRACE("route " + std::to_string(route) + ", answer " +
+                         std::to_string(c.answer ? static_cast<int>(*c.answer) : -1));
+            CommandDesk d;
+            RiskSheet& s = d.sheet(SheetKind::Stock);
+            d.app.store().execute("delete from PortfolioDet");
+            s.SavedDelNeutral = c.neutralMoved ? "different" : Trim(s.text("txtdelneutral"));
+            s.SavedBalance = c.balanceMoved ? "different" : Trim(s.text("TxtBalance"));
+            if (c.answer) d.ui.queueAnswer(*c.answer);
+            bool closed = !c.answer; // only the close box reports whether the screen went
+            if (route == Toolbar) s.fire("Toolbar1(10)", EventType::Click);
+            if (route == Menu) s.fire("mnuexit", EventType::Click);
+            if (route == Esc) CommandDesk::key(s, keys::Escape);
+            if (route == CloseBox) closed = s.requestClose();
+            EXPECT_EQ(closed, !c.answer);
+            EXPECT_EQ(d.boxLines(), c.answer ? question : std::vector<std::string>{});
+            Form* still = d.app.screens().find(RiskSheet::kStockName);
+            EXPECT_EQ(still != nullptr, c.answer.has_value()) << "kept loaded";
+            EXPECT_EQ(still && still->visible(), c.answer == MsgAnswer::Cancel);
+            EXPECT_EQ(d.number("select count(*) from PortfolioDet") > 0, c.answer == MsgAnswer::Yes);
+            EXPECT_EQ(d.ui.busyDepth(), 0);
         }
-        Form* still = d.app.screens().find(RiskSheet::kStockName);
-        EXPECT_EQ(still != nullptr, c.stays);
-        if (still) {
-            EXPECT_EQ(still->visible(), c.visible);
-        }
-        EXPECT_EQ(d.number("select count(*) from PortfolioDet") > 0, c.saved);
-        EXPECT_EQ(d.ui.busyDepth(), 0);
-    }
-}
-
-TEST(SheetCommands, EscAndTheCloseBoxRunTheSameCloseAsExit) {
-    for (bool byEsc : {true, false}) {
-        CommandDesk d;
-        RiskSheet& s = d.stock();
-        s.SavedDelNeutral = s.SavedBalance = "different";
-        d.ui.queueAnswer(MsgAnswer::Cancel);
-        if (byEsc)
-            CommandDesk::key(s, keys::Escape);
-        else
-            EXPECT_FALSE(s.requestClose());
-        EXPECT_EQ(d.boxTexts(), std::vector<std::string>{"Do you wish to Save the Changes?"});
-        EXPECT_TRUE(s.visible());
-    }
-}
-
-TEST(SheetCommands, NoOnANewSheetDropsItsRows) {
-    CommandDesk d;
-    d.app.session().g_ExpiryDate = VbDate::fromYmd(2026, 12, 10);
-    RiskSheet& s = d.openFresh();
-    d.app.store().execute("update Trans set InType = 'S'"); // the sheet is listed as it was made
-    s.va1().activeRow = 2;
-    s.setText("TxtImpVol", "30");
-    s.setText("TxtImpVolP", "30");
-    s.RefreshData(13); // as leaving the volatility field prices the new ladder
-    d.answerEntry({{"TxtUnits", "2"}, {"TxtTraded", "12"}});
-    s.fire("Toolbar1(2)", EventType::Click);
-    ASSERT_EQ(d.ledger("symbol = 'TCSK2026'"), 1) << ::testing::PrintToString(d.boxTexts());
-    s.SavedDelNeutral = s.SavedBalance = "different";
-    d.ui.queueAnswer(MsgAnswer::No);
-    s.fire("mnuexit", EventType::Click);
-    EXPECT_EQ(d.number("select count(*) from Trans where InSymbol = 'TCSK2026'"), 0);
-    EXPECT_EQ(d.ledger("symbol = 'TCSK2026'"), 0);
-    EXPECT_EQ(d.number("select count(*) from PortfolioMast"), 0);
-    EXPECT_FALSE(s.visible());
 }
 
 TEST(SheetCommands, TheLadderDigitKeys) {
     CommandDesk d;
-    RiskSheet& s = d.stock();
+    RiskSheet& s = d.sheet(SheetKind::Stock);
     s.moveFocus("TxtNet");
     s.va1().activeRow = 4;
     s.va1().activeCol = 1;
     test::typeChar(s, "va1", '9');
     EXPECT_EQ(s.va1().activeCol, 2);
     EXPECT_EQ(s.focused(), "va1");
-    // "4" runs the click of the active cell, which writes the hedges.
-    s.setText("TxtDelHed", "");
-    test::typeChar(s, "va1", '4');
-    EXPECT_FALSE(s.text("TxtDelHed").empty());
-    s.setText("TxtDelHed", "");
-    test::typeChar(s, "va1", '5');
-    EXPECT_TRUE(s.text("TxtDelHed").empty()) << "other characters are only typed";
+    // "4" runs the click of the active cell, which writes the hedges; other characters are only typed.
+    for (char typed : {'4', '5'}) {
+        s.setText("TxtDelHed", "");
+        test::typeChar(s, "va1", typed);
+        EXPECT_EQ(s.text("TxtDelHed").empty(), typed == '5') << typed;
+    }
 }

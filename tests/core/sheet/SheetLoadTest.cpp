@@ -20,11 +20,28 @@ struct NewSheetDesk : test::SheetDesk {
     }
 };
 
-std::vector<std::string> ladderText(RiskSheet& s) {
-    std::vector<std::string> rows;
+// Strike and side of each ladder row, each after a "|".
+std::string ladderText(RiskSheet& s) {
+    std::string rows;
     for (int r = 1; r <= s.va1().dataRowCount(); ++r)
-        rows.push_back(s.va1().text(r, 1) + s.va1().text(r, 2));
+        rows += "|" + s.va1().text(r, 1) + s.va1().text(r, 2);
     return rows;
+}
+
+// The texts of the fields, joined by "|".
+std::string texts(Form& form, std::initializer_list<const char*> fields) {
+    std::string t;
+    for (const char* f : fields)
+        t += "|" + form.text(f);
+    return t.substr(1);
+}
+
+// The numbers of rows in the tables ("Trans", "DumUploadFile where ..."), joined by "|".
+std::string rowCounts(test::SheetDesk& d, std::initializer_list<const char*> tables) {
+    std::string t;
+    for (const char* table : tables)
+        t += "|" + NumText(d.number(std::string("select count(*) from ") + table));
+    return t.substr(1);
 }
 
 } // namespace
@@ -32,19 +49,21 @@ std::vector<std::string> ladderText(RiskSheet& s) {
 TEST(SheetLoad, ANewLadderIsBuiltRoundTheMarketPrice) {
     struct Case {
         int above, below;
-        std::vector<std::string> rows; // strike and side of rows 1 to the last
+        double step;
+        const char* rows;
         SheetKind kind = SheetKind::Stock;
     } cases[] = {
-        {1, 1, {"", "980C", "980P", "1000C", "1000P", "1020C", "1020P"}, SheetKind::Index},
-        {2, 2, {"", "960C", "960P", "980C", "980P", "1000C", "1000P", "1020C", "1020P", "1040C", "1040P"}},
-        {0, 3, {"", "940C", "940P", "960C", "960P", "980C", "980P", "1000C", "1000P"}},
+        {1, 1, 20, "||980C|980P|1000C|1000P|1020C|1020P", SheetKind::Index},
+        {1, 1, 12.5, "||987.5C|987.5P|1000C|1000P|1012.5C|1012.5P"},
+        {2, 2, 20, "||960C|960P|980C|980P|1000C|1000P|1020C|1020P|1040C|1040P"},
+        {0, 3, 20, "||940C|940P|960C|960P|980C|980P|1000C|1000P"},
         // Nothing below: no middle strike, and the first row above lands on the heading row.
-        {2, 0, {"1020C", "1020P", "1040C", "1040P"}},
-        {0, 0, {}},
+        {2, 0, 20, "|1020C|1020P|1040C|1040P"},
+        {0, 0, 20, ""},
     };
     for (const Case& c : cases) {
         NewSheetDesk d;
-        RiskSheet& s = d.openNew(c.above, c.below, 20, c.kind);
+        RiskSheet& s = d.openNew(c.above, c.below, c.step, c.kind);
         EXPECT_EQ(ladderText(s), c.rows) << c.above << " above, " << c.below << " below";
         EXPECT_TRUE(d.ui.boxes().empty());
     }
@@ -53,72 +72,47 @@ TEST(SheetLoad, ANewLadderIsBuiltRoundTheMarketPrice) {
 TEST(SheetLoad, ANewSheetIsPaintedInPairsAndDatedToday) {
     NewSheetDesk d;
     RiskSheet& s = d.openNew(1, 1, 12.5);
-    EXPECT_EQ(ladderText(s),
-              (std::vector<std::string>{"", "987.5C", "987.5P", "1000C", "1000P", "1012.5C", "1012.5P"}));
     for (int row = 2; row <= 7; ++row) {
         EXPECT_EQ(s.va1().cell(row, 3).back, RGB(0, 0, 0));
         EXPECT_EQ(s.va1().cell(row, 16).fore, row % 2 == 0 ? kYellow : kGreen) << row;
     }
-    EXPECT_EQ(s.text("TxtCurDt"), "23-11-2026");
-    EXPECT_EQ(s.text("TxtExpDt"), "26-11-2026");
-    EXPECT_EQ(s.text("TxtDays"), "3");
-    EXPECT_EQ(s.text("TxtMktPrice"), "1000");
-    EXPECT_EQ(s.text("TxtSymbol"), "TCSK2026");
+    EXPECT_EQ(texts(s, {"TxtCurDt", "TxtExpDt", "TxtDays", "TxtMktPrice", "TxtSymbol"}),
+              "23-11-2026|26-11-2026|3|1000|TCSK2026");
     EXPECT_EQ(s.caption(), "Risk Management Sheet for  FRESH   01-11-2026 .....Tallimark ");
-    EXPECT_EQ(s.IntRate, 0.06);
-    EXPECT_EQ(s.StrikeStep, 12.5);
+    EXPECT_EQ(NumText(s.IntRate) + "|" + NumText(s.StrikeStep), "0.06|12.5");
     EXPECT_EQ(s.va1().text(2, 5), "") << "a new sheet is not priced until a refresh";
 }
 
 TEST(SheetLoad, TheScriptGivesLotAndExposureMarginWithNullsAsZero) {
     struct Case {
-        const char* lot;
-        const char* margin;
-        double contract;
-        const char* contractText;
-        double pct;
-    } cases[] = {{"250", "5", 250, "250", 5}, {"", "", 0, "0", 0}, {"75", "2.5 pct", 75, "75", 2.5}};
+        const char *lot, *margin;
+        const char* got; // the contract size, its field and the margin percent
+    } cases[] = {{"250", "5", "250|250|5"}, {"", "", "0|0|0"}, {"75", "2.5 pct", "75|75|2.5"}};
     for (const Case& c : cases) {
         NewSheetDesk d;
         d.addScript("TCS", c.lot, c.margin);
         RiskSheet& s = d.openNew(1, 1);
-        EXPECT_EQ(s.ContractSize, c.contract);
-        EXPECT_EQ(s.text("TxtContract"), c.contractText);
-        EXPECT_EQ(s.ExMarginPct, c.pct);
+        EXPECT_EQ(NumText(s.ContractSize) + "|" + s.text("TxtContract") + "|" + NumText(s.ExMarginPct),
+                  c.got);
     }
 }
 
 TEST(SheetLoad, ASavedSheetComesBackFromItsHeadAndLadder) {
+    // The caption and the figures of the opening refresh: SheetFigures and SheetBatch.
     test::SheetDesk d;
-    RiskSheet& s = test::openSavedScenario(d, SheetKind::Stock);
-    const std::pair<const char*, const char*> fields[] = {
-        {"TxtSymbol", "RILK2026"},
-        {"TxtMktPrice", "1010"},
-        {"TxtDays", "17"},
-        {"TxtExpDt", "10-12-2026"},
-        {"TxtCurDt", "23-11-2026"},
-        {"DTPicker1", "23-Nov-26"},
-        {"TxtNet", "7"},
-        {"TxtVol", "31"},
-        {"TxtKeyOff", "K1"},
-        {"TxtSpread", "SP"},
-        {"TxtMargin", "50000"},
-        {"TxtCashLots", "2"},
-        {"TxtCashTrade", "990"},
-        {"TxtFut_trdNF", "3"},
-        {"TxtFut_trdAmt", "996.33"},
-        {"TxtEquity", "5"},
-        {"TxtTotComm", "12"},
-        {"TxtContract", "250"},
-    };
-    for (const auto& [field, value] : fields)
-        EXPECT_EQ(s.text(field), value) << field;
-    EXPECT_EQ(s.caption(), "Risk Management Sheet for  NOV SHEET   20-11-2026 .....Tallimark ");
+    RiskSheet& s = riskSheet(d.app, SheetKind::Stock);
+    s.SavedDelNeutral = "3";
+    s.SavedBalance = "273";
+    test::openSavedScenario(d, SheetKind::Stock);
+    EXPECT_EQ(texts(s, {"TxtSymbol", "TxtMktPrice", "TxtExpDt", "TxtCurDt", "DTPicker1", "TxtNet", "TxtVol",
+                        "TxtKeyOff", "TxtSpread", "TxtMargin", "TxtCashLots", "TxtCashTrade", "TxtFut_trdNF",
+                        "TxtFut_trdAmt", "TxtEquity", "TxtTotComm", "TxtContract", "TxtCashU"}),
+              "RILK2026|1010|10-12-2026|23-11-2026|23-Nov-26|7|31|K1|SP|50000|2|990|3|996.33|5|12|250|40");
     EXPECT_EQ(s.va1().cell(3, 3).fore, kRed) << "960 P, sold";
     EXPECT_EQ(s.va1().cell(4, 3).fore, kCyan) << "980 C, bought";
     EXPECT_EQ(s.va1().cell(2, 3).fore, kYellow) << "nothing held";
-    EXPECT_EQ(s.text("TxtCashU"), "40");
     EXPECT_EQ(s.control("TxtCashR").foreColor, kRed);
+    EXPECT_EQ(s.SavedDelNeutral + "|" + s.SavedBalance, "3|273") << "the figures saved survive the load";
 }
 
 TEST(SheetLoad, ASavedSheetPastItsExpiryKeepsItsDaysAndItsExposureMargin) {
@@ -132,51 +126,41 @@ TEST(SheetLoad, ASavedSheetPastItsExpiryKeepsItsDaysAndItsExposureMargin) {
 
     d.app.store().execute("update PortfolioMast set Days = 4, Field1 = Null");
     s.DoInit();
-    EXPECT_EQ(s.text("TxtDays"), "4");
-    EXPECT_EQ(s.text("TxtCurDt"), "16-11-2026") << "the expiry less the days kept";
-}
-
-TEST(SheetLoad, TheSavedDeltaNeutralAndBalanceSurviveALoad) {
-    test::SheetDesk d;
-    RiskSheet& s = riskSheet(d.app, SheetKind::Stock);
-    s.SavedDelNeutral = "3";
-    s.SavedBalance = "273";
-    test::openSavedScenario(d, SheetKind::Stock);
-    EXPECT_EQ(s.SavedDelNeutral, "3");
-    EXPECT_EQ(s.SavedBalance, "273");
+    EXPECT_EQ(s.text("TxtDays") + "|" + s.text("TxtCurDt"), "4|16-11-2026")
+        << "the expiry less the days kept";
 }
 
 TEST(SheetLoad, TheWorkingLedgerIsCopiedAfreshForTheSheetOrForTheWholeDesk) {
     struct Case {
         SheetKind kind;
-        double otherRowsLeft;
-    } cases[] = {{SheetKind::Stock, 1}, {SheetKind::Index, 0}};
+        const char *symbol, *desc;
+        // Rows left of the sheet's ledger (its 9 or 5 trades in Tracker), another sheet's ledger,
+        // the unsaved trade, the upload files and the sheet's own.
+        const char* left;
+    } cases[] = {{SheetKind::Stock, test::kStockSymbol, test::kStockDesc, "9|1|0|1|1"},
+                 {SheetKind::Index, test::kIndexSymbol, test::kIndexDesc, "5|0|0|1|1"}};
     for (const Case& c : cases) {
         test::SheetDesk d;
         test::saveStockSheet(d.app.store(), "1010", "10-Dec-2026");
         test::saveIndexSheet(d.app.store(), "6050", "10-Dec-2026");
-        const bool stock = c.kind == SheetKind::Stock;
-        const std::string symbol = stock ? test::kStockSymbol : test::kIndexSymbol;
-        const std::string desc = stock ? test::kStockDesc : test::kIndexDesc;
         d.addTrade("DummyTracker", "ACCX2026", "OTHER", "500", "C", 1, 5);
-        d.addTrade("DummyTracker", symbol, desc, "500", "C", 99, 5); // unsaved: replaced on opening
-        d.insert("UploadFile", {{"Symbol", q(symbol)}, {"InDesc", q(desc)}, {"futstk", "'F1.txt'"}});
+        d.addTrade("DummyTracker", c.symbol, c.desc, "500", "C", 99, 5); // unsaved: replaced on opening
+        d.insert("UploadFile", {{"Symbol", q(c.symbol)}, {"InDesc", q(c.desc)}, {"futstk", "'F1.txt'"}});
         d.insert("DumUploadFile", {{"Symbol", "'ACCX2026'"}, {"InDesc", "'OTHER'"}, {"futstk", "'F0.txt'"}});
-        d.open(c.kind, symbol, desc);
-        EXPECT_EQ(d.number("select count(*) from DummyTracker where Symbol = 'ACCX2026'"), c.otherRowsLeft);
-        EXPECT_EQ(d.number("select count(*) from DummyTracker where Symbol = " + q(symbol)),
-                  d.number("select count(*) from Tracker where Symbol = " + q(symbol)));
-        EXPECT_EQ(d.number("select count(*) from DummyTracker where Units = 99"), 0);
-        EXPECT_EQ(d.number("select count(*) from DumUploadFile"), 1);
-        EXPECT_EQ(d.number("select count(*) from DumUploadFile where futstk = 'F1.txt'"), 1);
+        d.open(c.kind, c.symbol, c.desc);
+        const std::string sheetRows = "DummyTracker where Symbol = " + q(c.symbol);
+        EXPECT_EQ(rowCounts(d, {sheetRows.c_str(), "DummyTracker where Symbol = 'ACCX2026'",
+                                "DummyTracker where Units = 99", "DumUploadFile",
+                                "DumUploadFile where futstk = 'F1.txt'"}),
+                  c.left)
+            << c.symbol;
     }
 }
 
 TEST(SheetLoad, ASheetWhoseTransRowIsGoneOpensEmpty) {
     test::SheetDesk d;
     RiskSheet& s = d.open(SheetKind::Stock, "GONEK2026", "NONE");
-    EXPECT_EQ(s.text("TxtSymbol"), "");
-    EXPECT_EQ(s.text("TxtContract"), "");
+    EXPECT_EQ(texts(s, {"TxtSymbol", "TxtContract"}), "|");
     EXPECT_EQ(s.va1().dataRowCount(), 0);
     EXPECT_TRUE(d.ui.boxes().empty()) << d.boxTexts().front();
 }
@@ -185,26 +169,25 @@ TEST(SheetLoad, DroppingASheetThatWasNeverSaved) {
     struct Case {
         SheetKind kind;
         bool saved;
-        double sheetRows, otherRows, transRows;
+        const char* left; // rows of Trans, of the sheet's and another sheet's ledger, of its upload files
     } cases[] = {
-        {SheetKind::Stock, false, 0, 1, 0},
-        {SheetKind::Stock, true, 1, 1, 1},
-        {SheetKind::Index, false, 0, 0, 0},
+        {SheetKind::Stock, false, "0|0|1|0"},
+        {SheetKind::Stock, true, "1|1|1|1"},
+        {SheetKind::Index, false, "0|0|0|0"},
     };
     for (const Case& c : cases) {
         test::SheetDesk d;
         if (c.saved) d.insert("PortfolioMast", {{"Symbol", "'TCSK2026'"}, {"Descr", "'FRESH'"}});
         RiskSheet& s = d.openFresh(c.kind);
-        FrmNewMainScreen& list = d.app.screens().get<FrmNewMainScreen>();
-        ASSERT_EQ(list.grid("ListView1").maxRows(), 1);
+        Grid& list = d.app.screens().get<FrmNewMainScreen>().grid("ListView1");
+        ASSERT_EQ(list.maxRows(), 1);
         d.addTrade("DummyTracker", "TCSK2026", "FRESH", "1000", "C", 1, 5);
         d.addTrade("DummyTracker", "ACCX2026", "OTHER", "500", "C", 1, 5);
         d.insert("DumUploadFile", {{"Symbol", "'TCSK2026'"}, {"InDesc", "'FRESH'"}});
         s.CancelData();
-        EXPECT_EQ(d.number("select count(*) from Trans"), c.transRows);
-        EXPECT_EQ(d.number("select count(*) from DummyTracker where Symbol = 'TCSK2026'"), c.sheetRows);
-        EXPECT_EQ(d.number("select count(*) from DummyTracker where Symbol = 'ACCX2026'"), c.otherRows);
-        EXPECT_EQ(d.number("select count(*) from DumUploadFile"), c.saved ? 1 : 0);
-        EXPECT_EQ(list.grid("ListView1").maxRows(), c.transRows) << "the list of sheets is drawn again";
+        EXPECT_EQ(rowCounts(d, {"Trans", "DummyTracker where Symbol = 'TCSK2026'",
+                                "DummyTracker where Symbol = 'ACCX2026'", "DumUploadFile"}),
+                  c.left);
+        EXPECT_EQ(list.maxRows(), c.saved ? 1 : 0) << "the list of sheets is drawn again";
     }
 }
