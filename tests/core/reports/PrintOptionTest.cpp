@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 using namespace tallimark;
 
@@ -52,21 +53,17 @@ std::vector<std::string> printed(const ReportDocument& doc) {
 }
 
 // A choice on the screen: print kind, depth, "as on date", the date range.
-struct Choice {
-    int kind, depth;
-    bool asOnDate;
-    const char* from;
-    const char* to;
-};
+using Choice = std::tuple<int, int, bool, const char*, const char*>;
 // Chooses on the screen as the desk does and prints; the boxes shown when nothing printed.
-std::vector<std::string> print(test::Desk& desk, const Choice& c) {
+std::vector<std::string> print(test::Desk& desk, const Choice& choice) {
+    const auto& [kind, depth, asOnDate, from, to] = choice;
     auto& form = desk.app.screens().get<FrmPrintOption>();
     form.show();
-    form.setValue("Option2(" + std::to_string(c.kind) + ")", true);
-    form.setValue("Option1(" + std::to_string(c.depth) + ")", true);
-    form.setValue("Check1", c.asOnDate);
-    form.setText("DTPicker1", c.from);
-    form.setText("DTPicker2", c.to);
+    form.setValue("Option2(" + std::to_string(kind) + ")", true);
+    form.setValue("Option1(" + std::to_string(depth) + ")", true);
+    form.setValue("Check1", asOnDate);
+    form.setText("DTPicker1", from);
+    form.setText("DTPicker2", to);
     const size_t before = desk.ui.reports().size();
     form.fire("Cmd(0)", EventType::Click);
     if (desk.ui.reports().size() == before) return desk.boxTexts();
@@ -131,12 +128,13 @@ TEST(PrintOption, EachChoiceRunsItsReportWithItsRowsTotalsAndValues) {
     // Limits left blank in the script master are kept as 0.
     desk.app.store().execute("insert into ScriptMast(ScrCode, Limit_Cr, First_Gamma, Week_Gamma) "
                              "values ('ABC', 0, '0', '0')");
-    expectInOrder(print(desk, {2, 0, true, from, to}),
+    expectInOrder(print(desk, Choice{2, 0, true, from, to}),
                   {"Sheet ABCX2026   NOV", "Market price 10   Days 7   Expiry 30-11-2026   Date ",
                    "The sheet holds no open positions.", "Future/Stock units|0",
                    "Limit (crores)|not set for this script", "Last gamma|not set for this script"});
     desk.app.session().g_strDesc = "DEC";
-    EXPECT_EQ(print(desk, {2, 0, true, from, to}).back().rfind("Error in PrintRecords1 procedure: ", 0), 0u);
+    EXPECT_EQ(print(desk, Choice{2, 0, true, from, to}).back().rfind("Error in PrintRecords1 procedure: ", 0),
+              0u);
 }
 
 TEST(ReportData, TheButtonsFillTheWorkTablesAndShowTheirReports) {

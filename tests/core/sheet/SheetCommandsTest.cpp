@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using namespace tallimark;
 
 namespace {
@@ -17,9 +19,7 @@ const Rgb kRed = RGB(255, 0, 0), kCyan = RGB(0, 255, 255);
 struct CommandDesk : test::SheetDesk {
     RiskSheet& sheet(SheetKind kind) { return test::openSavedScenario(*this, kind); }
 
-    static void key(Form& form, int keyCode, int shift = 0) {
-        test::pressKey(form, "TxtNet", keyCode, shift);
-    }
+    static void key(Form& form, int code, int shift = 0) { test::pressKey(form, "TxtNet", code, shift); }
     // The entry dialog takes these texts and the button pressed; the fields it came up with are kept.
     void answerEntry(std::map<std::string, std::string> texts, const char* button = "Cmd(0)") {
         ui.setModalRunner([this, texts, button](Form& dialog) {
@@ -31,9 +31,7 @@ struct CommandDesk : test::SheetDesk {
             dialog.fire(button, EventType::Click);
         });
     }
-    double ledger(const std::string& where) {
-        return number("select count(*) from DummyTracker where " + where);
-    }
+    double ledger(const std::string& w) { return number("select count(*) from DummyTracker where " + w); }
 
     std::map<std::string, std::string> shown;
 };
@@ -46,23 +44,18 @@ bool shownScreen(App& app, const char* name) {
 } // namespace
 
 TEST(SheetCommands, AltLettersOpenTheScreensOfTheirSheetKind) {
-    struct Case {
-        char letter;
-        const char* stockScreen;
-        const char* indexScreen;
-    } cases[] = {
+    const std::tuple<char, const char*, const char*> cases[] = {
         {'R', "FrmNewCharges", "FrmChargesExl"}, {'T', "FrmTradeTracker", "FrmTradeTracker"},
         {'L', "FrmUpload", "FrmUploadFut"},      {'S', "FrmSimulation", "FrmSimulation"},
         {'G', "FrmListGraph", "FrmListGraph"},   {'P', "FrmPrintOption", "FrmPrintOption"},
     };
-    for (const Case& c : cases)
+    for (const auto& [letter, stockScreen, indexScreen] : cases)
         for (SheetKind kind : {SheetKind::Stock, SheetKind::Index}) {
             CommandDesk d;
             RiskSheet& s = d.sheet(kind);
             d.app.session().g_strSymbol = "OTHER"; // a click on the main screen's list meanwhile
-            CommandDesk::key(s, c.letter, keys::AltMask);
-            EXPECT_TRUE(shownScreen(d.app, kind == SheetKind::Index ? c.indexScreen : c.stockScreen))
-                << c.letter;
+            CommandDesk::key(s, letter, keys::AltMask);
+            EXPECT_TRUE(shownScreen(d.app, kind == SheetKind::Index ? indexScreen : stockScreen)) << letter;
             EXPECT_EQ(d.app.session().g_strSymbol, s.OwnSymbol) << "the screen opens on its own sheet";
             d.app.session().g_strSymbol = "OTHER";
             s.fire("Form", EventType::Activate);
@@ -71,18 +64,15 @@ TEST(SheetCommands, AltLettersOpenTheScreensOfTheirSheetKind) {
 }
 
 TEST(SheetCommands, KeysMoveTheFocus) {
-    struct Case {
-        int key, shift;
-        const char* focus;
-    } cases[] = {{'D', keys::AltMask, "TxtDays"},   {'M', keys::AltMask, "TxtMktPrice"},
-                 {'C', keys::AltMask, "TxtImpVol"}, {'V', keys::AltMask, "TxtImpVolP"},
-                 {'E', keys::AltMask, "va1"},       {keys::F3, 0, "va1"}};
-    for (const Case& c : cases) {
-        CommandDesk d;
-        RiskSheet& s = d.sheet(SheetKind::Stock);
+    CommandDesk d;
+    RiskSheet& s = d.sheet(SheetKind::Stock);
+    const std::pair<int, const char*> cases[] = {{'D', "TxtDays"},   {'M', "TxtMktPrice"},
+                                                 {'C', "TxtImpVol"}, {'V', "TxtImpVolP"},
+                                                 {'E', "va1"},       {keys::F3, "va1"}};
+    for (const auto& [key, focus] : cases) {
         s.moveFocus("TxtNet");
-        CommandDesk::key(s, c.key, c.shift);
-        EXPECT_EQ(s.focused(), c.focus) << c.key;
+        CommandDesk::key(s, key, key == keys::F3 ? 0 : keys::AltMask); // F3 alone, the letters with Alt
+        EXPECT_EQ(s.focused(), focus) << key;
     }
 }
 
@@ -161,35 +151,33 @@ TEST(SheetCommands, EveryCloseAsksOnlyWhenBothFiguresMoved) {
     // The toolbar's Exit, its menu entry, Esc and the window's close box run the one close. Asked,
     // Yes saves and Yes or No hide the screen for the next sheet; unasked, the screen goes.
     enum Route { Toolbar, Menu, Esc, CloseBox };
-    struct Case {
-        bool neutralMoved, balanceMoved;
-        std::optional<MsgAnswer> answer; // nothing: no question
-    } cases[] = {
+    // Whether the delta-neutral figure and the balance moved; the answer, or none when not asked.
+    const std::tuple<bool, bool, std::optional<MsgAnswer>> cases[] = {
         {true, true, MsgAnswer::Yes}, {true, true, MsgAnswer::No}, {true, true, MsgAnswer::Cancel},
         {true, false, std::nullopt},  {false, true, std::nullopt},
     };
     const std::vector<std::string> question = {"Exit|Do you wish to Save the Changes?|question"};
-    for (const Case& c : cases)
+    for (const auto& [neutralMoved, balanceMoved, answer] : cases)
         for (Route route : {Toolbar, Menu, Esc, CloseBox}) {
             SCOPED_TRACE("route " + std::to_string(route) + ", answer " +
-                         std::to_string(c.answer ? static_cast<int>(*c.answer) : -1));
+                         std::to_string(answer ? static_cast<int>(*answer) : -1));
             CommandDesk d;
             RiskSheet& s = d.sheet(SheetKind::Stock);
             d.app.store().execute("delete from PortfolioDet");
-            s.SavedDelNeutral = c.neutralMoved ? "different" : Trim(s.text("txtdelneutral"));
-            s.SavedBalance = c.balanceMoved ? "different" : Trim(s.text("TxtBalance"));
-            if (c.answer) d.ui.queueAnswer(*c.answer);
-            bool closed = !c.answer; // only the close box reports whether the screen went
+            s.SavedDelNeutral = neutralMoved ? "different" : Trim(s.text("txtdelneutral"));
+            s.SavedBalance = balanceMoved ? "different" : Trim(s.text("TxtBalance"));
+            if (answer) d.ui.queueAnswer(*answer);
+            bool closed = !answer; // only the close box reports whether the screen went
             if (route == Toolbar) s.fire("Toolbar1(10)", EventType::Click);
             if (route == Menu) s.fire("mnuexit", EventType::Click);
             if (route == Esc) CommandDesk::key(s, keys::Escape);
             if (route == CloseBox) closed = s.requestClose();
-            EXPECT_EQ(closed, !c.answer);
-            EXPECT_EQ(d.boxLines(), c.answer ? question : std::vector<std::string>{});
+            EXPECT_EQ(closed, !answer);
+            EXPECT_EQ(d.boxLines(), answer ? question : std::vector<std::string>{});
             Form* still = d.app.screens().find(RiskSheet::kStockName);
-            EXPECT_EQ(still != nullptr, c.answer.has_value()) << "kept loaded";
-            EXPECT_EQ(still && still->visible(), c.answer == MsgAnswer::Cancel);
-            EXPECT_EQ(d.number("select count(*) from PortfolioDet") > 0, c.answer == MsgAnswer::Yes);
+            EXPECT_EQ(still != nullptr, answer.has_value()) << "kept loaded";
+            EXPECT_EQ(still && still->visible(), answer == MsgAnswer::Cancel);
+            EXPECT_EQ(d.number("select count(*) from PortfolioDet") > 0, answer == MsgAnswer::Yes);
             EXPECT_EQ(d.ui.busyDepth(), 0);
         }
 }
