@@ -5,6 +5,7 @@
 #include "frame/VbError.h"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -76,12 +77,23 @@ public:
     // new figures (the refresh's writes) is then prepared once.
     void execute(std::string_view sql, const std::vector<std::string>& texts);
     Recordset query(std::string_view sql);
+    // A query with texts in place of its "?" marks, as execute takes them.
+    Recordset query(std::string_view sql, const std::vector<std::string>& texts);
     // Plain SQLite, not mapped: schema work of the store itself.
     void executeNative(std::string_view sql);
     long long changes() const;
     // Differs from every earlier reading once any row may have changed: written, or put back by
     // a rollback. What is worked out from rows may be kept while it stands.
     long long changeStamp() const;
+    // The same for the working ledger (DummyTracker) alone: every statement that writes it names
+    // it, so writes elsewhere leave this stamp as it was.
+    long long ledgerStamp() const { return ledgerWrites_ + undone_; }
+    // Writes to the working ledger that may wait: they run just before the next statement that
+    // could see them (one that writes the ledger, or reads a column they write, or all of a
+    // row), before a step that may be undone, and as a later deferral comes in. Called with
+    // false instead when the step they were made in is undone, as their writes would have been.
+    void deferLedgerWrites(std::function<void(bool write)> writes);
+    void runDeferredWrites();
     sqlite3* handle() { return db_; }
 
 private:
@@ -89,6 +101,11 @@ private:
     explicit Store(sqlite3* db);
     sqlite3* db_;
     long long undone_ = 0; // rollbacks seen: they change rows without counting as changes
+    long long ledgerWrites_ = 0;
+    std::function<void(bool)> deferred_;
+    int steps_ = 0;        // all-or-nothing steps open
+    int deferredStep_ = 0; // the steps open when the waiting writes were made
+    void beforeStatement(std::string_view sql);
     std::unique_ptr<StatementCache> statements_;
 };
 

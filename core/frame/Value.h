@@ -18,6 +18,11 @@ public:
 
     bool isNull() const { return std::holds_alternative<std::monostate>(v_); }
     bool isDate() const { return std::holds_alternative<VbDate>(v_); }
+    // The store's own kinds of a number: a whole number or a double, as it handed them over.
+    bool isInteger() const { return std::holds_alternative<int64_t>(v_); }
+    bool isDouble() const { return std::holds_alternative<double>(v_); }
+    int64_t integer() const { return std::get<int64_t>(v_); }
+    double real() const { return std::get<double>(v_); }
     // The text a field shows of it; a null raises Invalid use of Null, as assigning it would.
     std::string text() const;
     // The text, or "" for a null: for the columns read with a null test first.

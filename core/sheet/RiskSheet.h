@@ -7,11 +7,13 @@
 #include "pricing/IndexEngine.h"
 #include "pricing/StockEngine.h"
 #include "sheet/SheetScreen.h"
+#include "tracker/LedgerMirror.h"
 
 #include <array>
 #include <exception>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -126,9 +128,7 @@ public:
                     const std::function<void(double units, double amount)>& add);
     // The option rows' sums of units*last, units*DumThVal and -units*delta/100 under `key`, as
     // "select sum(...) from dummytracker where <key> and CP <> 'S'" gives each; null counts 0.
-    struct OptionTotals {
-        double last, nextDay, delta;
-    };
+    using OptionTotals = tallimark::OptionTotals;
     const OptionTotals& optionTotals(const std::string& key);
 
     // The commands of the toolbar, by the key of their button ("Save", "Option", ...).
@@ -274,16 +274,27 @@ private:
 
     // The ledger's sums as a refresh asks for them from several procedures: worked out in one
     // walk of the sheet's index per kind and kept, per key, while no row changes.
-    struct LedgerSeries {
-        double units, atLast, atNextDay;
-        bool option;
-    };
     struct LedgerTotals {
         std::optional<std::vector<LedgerSeries>> series;
         std::optional<OptionTotals> options;
     };
     LedgerTotals& ledgerTotals(const std::string& key);
     std::vector<LedgerSeries> readSeries(const std::string& key);
+    // The mirror when `key` is the sheet's own and its rows can be held; else none.
+    const LedgerMirror* mirrorOf(const std::string& key);
+    // The key of the rows UpdateTracker writes, when every key of the sheet names them alike.
+    std::optional<std::string> mirroredKey();
+
+    // The refresh's writes to its held series, waiting in the store while the mirror holds the
+    // rows as they will be. Shared with the waiting writes, which outlive nothing they need.
+    struct WaitingSeries {
+        std::map<std::string, uint64_t> sequenceOf; // per series, the place of its latest update
+        std::map<uint64_t, std::vector<std::string>> updates;
+        uint64_t next = 0;
+        bool waiting = false;
+        LedgerMirror mirror;
+    };
+    std::shared_ptr<WaitingSeries> waiting_ = std::make_shared<WaitingSeries>();
 
     // The statement texts UpdateTracker last wrote per series, and the store's change stamp
     // after them (-1 while a write is under way).

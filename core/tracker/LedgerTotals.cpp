@@ -9,7 +9,7 @@
 namespace tallimark {
 
 RiskSheet::LedgerTotals& RiskSheet::ledgerTotals(const std::string& key) {
-    const long long stamp = app().store().changeStamp();
+    const long long stamp = app().store().changeStamp() + app().store().ledgerStamp();
     if (stamp != totalsStamp_) {
         totals_.clear();
         totalsStamp_ = stamp;
@@ -17,7 +17,23 @@ RiskSheet::LedgerTotals& RiskSheet::ledgerTotals(const std::string& key) {
     return totals_[key];
 }
 
-std::vector<RiskSheet::LedgerSeries> RiskSheet::readSeries(const std::string& key) {
+std::optional<std::string> RiskSheet::mirroredKey() {
+    const std::string key = ledgerKey(Trim(OwnSymbol), OwnDesc);
+    if (key != sheetLedgerKey() || key != trimmedLedgerKey()) return std::nullopt;
+    return key;
+}
+
+const LedgerMirror* RiskSheet::mirrorOf(const std::string& key) {
+    Store& store = app().store();
+    LedgerMirror& mirror = waiting_->mirror;
+    if (mirror.holds(store, key)) return &mirror;
+    if (key != mirroredKey() || !mirror.load(store, key)) return nullptr;
+    return &mirror;
+}
+
+std::vector<LedgerSeries> RiskSheet::readSeries(const std::string& key) {
+    if (const LedgerMirror* mirror = mirrorOf(key))
+        if (auto series = mirror->series()) return *series;
     // The index gives the groups in the order the distinct series come, and each group's rows in
     // the order its own statement sums them. "CP <> 'S'" holds for all of a group's rows or none.
     Recordset rs = app().store().query(
@@ -58,6 +74,7 @@ void RiskSheet::seriesSums(const std::string& key, SeriesAmount amount, bool opt
 const RiskSheet::OptionTotals& RiskSheet::optionTotals(const std::string& key) {
     LedgerTotals& totals = ledgerTotals(key);
     if (!totals.options) {
+        if (const LedgerMirror* mirror = mirrorOf(key)) return *(totals.options = mirror->optionTotals());
         Recordset rs = app().store().query(
             "select sum(units*last) as TotLast, sum(units*DumThVal) as TotNextDay, sum(-units*delta/100) as "
             "TotDelta from dummytracker where " +

@@ -69,6 +69,14 @@ void RiskSheet::AddStock(const std::string& Units, const std::string& Traded, co
     });
 }
 
+namespace {
+
+const char* const kSeriesUpdate =
+    "update dummytracker set [last] =?, [vol] = ?, [delta] = ? , [DumThVal] = ? where "
+    "[symbol] = ? and [indesc] = ? and [strike] = ? and [CP] = ?";
+
+} // namespace
+
 void RiskSheet::UpdateTracker() {
     trapped("UpdateTracker", [this] {
         Store& store = app().store();
@@ -76,10 +84,15 @@ void RiskSheet::UpdateTracker() {
         // A text the statement could not hold fails as it would.
         (void)q(symbol);
         (void)q(OwnDesc);
+        // The writes wait while the mirror holds the rows they reach; the sums read the mirror.
+        WaitingSeries& w = *waiting_;
+        const std::optional<std::string> key = mirroredKey();
+        const bool wait = key && mirrorOf(*key);
         WriteGroup group(store, WriteGroup::Rows::Working);
         // While no row has changed since the last of these writes, a series whose figures stand
         // as then written would be written again to the same values: it is left as it is.
-        if (written_.stamp != store.changeStamp()) written_.texts.clear();
+        const long long stamp = store.changeStamp() + store.ledgerStamp();
+        if (written_.stamp != stamp) written_.texts.clear();
         written_.stamp = -1;
         // A flat series is left out: its rows keep the values of its last open moment, from
         // which its realised result is worked out.
@@ -103,12 +116,34 @@ void RiskSheet::UpdateTracker() {
             std::vector<std::string>& before = written_.texts[series];
             if (before == texts) continue;
             before.clear();
-            store.execute("update dummytracker set [last] =?, [vol] = ?, [delta] = ? , [DumThVal] = ? where "
-                          "[symbol] = ? and [indesc] = ? and [strike] = ? and [CP] = ?",
-                          texts);
+            if (wait) {
+                // A later update of a series replaces its waiting one: it would overwrite it.
+                w.mirror.setSeries(store, texts);
+                if (auto it = w.sequenceOf.find(series); it != w.sequenceOf.end())
+                    w.updates.erase(it->second);
+                w.sequenceOf[series] = w.next;
+                w.updates[w.next++] = texts;
+            } else {
+                store.execute(kSeriesUpdate, texts);
+            }
             before = std::move(texts);
         }
-        written_.stamp = store.changeStamp();
+        if (wait && !w.waiting && !w.updates.empty()) {
+            w.waiting = true;
+            store.deferLedgerWrites([&store, state = waiting_](bool write) {
+                state->waiting = false;
+                const auto updates = std::move(state->updates);
+                state->updates.clear();
+                state->sequenceOf.clear();
+                if (!write) return; // undone: the mirror no longer holds the store's rows anyway
+                WriteGroup writes(store, WriteGroup::Rows::Working);
+                for (const auto& [order, texts] : updates)
+                    store.execute(kSeriesUpdate, texts);
+                state->mirror.keep(store);
+            });
+        }
+        written_.stamp = store.changeStamp() + store.ledgerStamp();
+        totals_.clear(); // waiting writes change no stamp: the sums are read anew from the mirror
     });
 }
 
