@@ -1,5 +1,6 @@
 #include "frame/Store.h"
 
+#include "frame/LedgerStatements.h"
 #include "frame/SqlDialect.h"
 #include "frame/VbNumber.h"
 
@@ -119,52 +120,6 @@ Value readColumn(sqlite3_stmt* stmt, int i, bool dateColumn) {
         return Value(std::move(text));
     }
     }
-}
-
-// What a statement does with the working ledger, read from its text. Only a select that names
-// none of the columns whose writes may wait, and asks for no whole row, is sure not to see them.
-bool namesLedger(std::string_view sql) {
-    static constexpr std::string_view kName = "dummytracker";
-    for (size_t i = 0; i + kName.size() <= sql.size(); ++i)
-        if (strncasecmp(sql.data() + i, kName.data(), kName.size()) == 0) return true;
-    return false;
-}
-
-bool readsOnlySettledColumns(std::string_view sql) {
-    static const char* const kWaiting[] = {"last", "vol", "delta", "dumthval"};
-    std::string previous; // the last word or mark outside quotes, in lower case
-    bool first = true;
-    for (size_t i = 0; i < sql.size();) {
-        const unsigned char c = static_cast<unsigned char>(sql[i]);
-        if (c == '\'') {
-            const size_t end = sql.find('\'', i + 1);
-            if (end == std::string_view::npos) return false;
-            i = end + 1;
-            previous = "'";
-            continue;
-        }
-        if (std::isspace(c)) {
-            ++i;
-            continue;
-        }
-        std::string token;
-        if (std::isalnum(c) || c == '_') {
-            while (i < sql.size() && (std::isalnum(static_cast<unsigned char>(sql[i])) || sql[i] == '_'))
-                token += static_cast<char>(std::tolower(static_cast<unsigned char>(sql[i++])));
-            if (first && token != "select") return false;
-            for (const char* column : kWaiting)
-                if (token == column) return false;
-        } else {
-            token = static_cast<char>(c);
-            ++i;
-            if (c == '*' && (previous == "select" || previous == "distinct" || previous == "all" ||
-                             previous == "," || previous == "."))
-                return false;
-        }
-        first = false;
-        previous = std::move(token);
-    }
-    return true;
 }
 
 [[noreturn]] void notOurs(const std::filesystem::path& file, const std::string& why) {
@@ -301,12 +256,9 @@ std::unique_ptr<Store> Store::create(const std::filesystem::path& file) {
 }
 
 void Store::beforeStatement(std::string_view sql) {
-    if (!namesLedger(sql) || readsOnlySettledColumns(sql)) return;
-    runDeferredWrites();
-    size_t start = 0;
-    while (start < sql.size() && std::isspace(static_cast<unsigned char>(sql[start])))
-        ++start;
-    if (sql.size() - start < 6 || strncasecmp(sql.data() + start, "select", 6) != 0) ++ledgerWrites_;
+    const LedgerUse use = ledgerUse(sql);
+    if (use.seesWaitingWrites) runDeferredWrites();
+    if (use.writes) ++ledgerWrites_;
 }
 
 void Store::deferLedgerWrites(std::function<void(bool)> writes) {
