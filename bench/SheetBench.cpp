@@ -97,77 +97,41 @@ private:
 };
 
 // The market moves between refreshes, so every held series takes new values as it would on
-// the desk.
-void refresh(benchmark::State& state, SheetKind kind) {
+// the desk. With `save`, each refresh is saved: the writes it left waiting reach the store then.
+void cycle(benchmark::State& state, SheetKind kind, bool refresh, bool save) {
     SheetBenchDesk desk(kind, static_cast<int>(state.range(0)));
     bool up = false;
     for (auto _ : state) {
-        desk.sheet().setText("TxtMktPrice", (up = !up) ? "1000.5" : "1000");
-        desk.sheet().RefreshData(13);
+        if (refresh) {
+            desk.sheet().setText("TxtMktPrice", (up = !up) ? "1000.5" : "1000");
+            desk.sheet().RefreshData(13);
+        }
+        if (save) desk.sheet().SaveData();
     }
-    if (desk.boxes() != 0) state.SkipWithError("the refresh showed a box");
+    if (desk.boxes() != 0) state.SkipWithError("the sheet showed a box");
     state.counters["ladder_rows"] = desk.sheet().va1().dataRowCount() - 1;
 }
 
-void BM_StockSheetRefresh(benchmark::State& state) {
-    refresh(state, SheetKind::Stock);
-}
-BENCHMARK(BM_StockSheetRefresh)
-    ->Arg(400)
-    ->Arg(1000)
-    ->Arg(2000)
-    ->Arg(kLedgerRows)
-    ->Unit(benchmark::kMillisecond);
-
-void BM_IndexSheetRefresh(benchmark::State& state) {
-    refresh(state, SheetKind::Index);
-}
-BENCHMARK(BM_IndexSheetRefresh)
-    ->Arg(400)
-    ->Arg(1000)
-    ->Arg(2000)
-    ->Arg(kLedgerRows)
-    ->Unit(benchmark::kMillisecond);
-
-// A save of the refreshed sheet: head with its four scenarios, ladder, committed trades.
-void save(benchmark::State& state, SheetKind kind) {
-    SheetBenchDesk desk(kind, static_cast<int>(state.range(0)));
-    for (auto _ : state)
-        desk.sheet().SaveData();
-    if (desk.boxes() != 0) state.SkipWithError("the save showed a box");
-}
-
-void BM_StockSheetSave(benchmark::State& state) {
-    save(state, SheetKind::Stock);
-}
-BENCHMARK(BM_StockSheetSave)->Arg(400)->Arg(1000)->Arg(2000)->Arg(kLedgerRows)->Unit(benchmark::kMillisecond);
-
-void BM_IndexSheetSave(benchmark::State& state) {
-    save(state, SheetKind::Index);
-}
-BENCHMARK(BM_IndexSheetSave)->Arg(400)->Arg(1000)->Arg(2000)->Arg(kLedgerRows)->Unit(benchmark::kMillisecond);
-
-// The desk's cycle: a market move, its refresh and a save. The writes the refresh left waiting
-// reach the store in the save.
-void refreshAndSave(benchmark::State& state, SheetKind kind) {
-    SheetBenchDesk desk(kind, static_cast<int>(state.range(0)));
-    bool up = false;
-    for (auto _ : state) {
-        desk.sheet().setText("TxtMktPrice", (up = !up) ? "1000.5" : "1000");
-        desk.sheet().RefreshData(13);
-        desk.sheet().SaveData();
-    }
-    if (desk.boxes() != 0) state.SkipWithError("the cycle showed a box");
-}
-
-void BM_StockSheetRefreshAndSave(benchmark::State& state) {
-    refreshAndSave(state, SheetKind::Stock);
-}
-BENCHMARK(BM_StockSheetRefreshAndSave)->Arg(400)->Arg(kLedgerRows)->Unit(benchmark::kMillisecond);
-
-void BM_IndexSheetRefreshAndSave(benchmark::State& state) {
-    refreshAndSave(state, SheetKind::Index);
-}
-BENCHMARK(BM_IndexSheetRefreshAndSave)->Arg(400)->Arg(kLedgerRows)->Unit(benchmark::kMillisecond);
+// Refresh; save of the refreshed sheet (head with its four scenarios, ladder, committed
+// trades); the desk's cycle of both; for either kind of sheet.
+const bool kRegistered = [] {
+    struct Measure {
+        const char* name;
+        bool refresh, save;
+    };
+    for (const Measure& m : {Measure{"Refresh", true, false}, Measure{"Save", false, true},
+                             Measure{"RefreshAndSave", true, true}})
+        for (const SheetKind kind : {SheetKind::Stock, SheetKind::Index}) {
+            const std::string name =
+                std::string("BM_") + (kind == SheetKind::Stock ? "Stock" : "Index") + "Sheet" + m.name;
+            benchmark::RegisterBenchmark(name.c_str(), cycle, kind, m.refresh, m.save)
+                ->Arg(400)
+                ->Arg(1000)
+                ->Arg(2000)
+                ->Arg(kLedgerRows)
+                ->Unit(benchmark::kMillisecond);
+        }
+    return true;
+}();
 
 } // namespace
