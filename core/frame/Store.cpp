@@ -4,6 +4,7 @@
 #include "frame/SqlDialect.h"
 #include "frame/VbNumber.h"
 
+#include <atomic>
 #include <cctype>
 #include <list>
 #include <sqlite3.h>
@@ -230,6 +231,8 @@ private:
 };
 
 Store::Store(sqlite3* db) : db_(db), statements_(std::make_unique<StatementCache>(db)) {
+    static std::atomic<unsigned long long> opened{0};
+    serial_ = ++opened;
     sqlite3_rollback_hook(
         db_, [](void* store) { ++static_cast<Store*>(store)->undone_; }, this);
 }
@@ -329,8 +332,8 @@ long long Store::changes() const {
     return sqlite3_changes64(db_);
 }
 
-long long Store::changeStamp() const {
-    return sqlite3_total_changes64(db_) + undone_;
+Store::Stamp Store::stamp() const {
+    return {serial_, sqlite3_total_changes64(db_) + undone_ + ledgerWrites_};
 }
 
 WriteGroup::WriteGroup(Store& store, Rows rows)

@@ -82,12 +82,20 @@ public:
     // Plain SQLite, not mapped: schema work of the store itself.
     void executeNative(std::string_view sql);
     long long changes() const;
-    // Differs from every earlier reading once any row may have changed: written, or put back by
-    // a rollback. What is worked out from rows may be kept while it stands.
-    long long changeStamp() const;
+    // Differs from every earlier reading, of this connection or another, once any row may have
+    // changed: written, or put back by a rollback. What is worked out from rows may be kept
+    // while it stands.
+    struct Stamp {
+        unsigned long long store;
+        long long rows;
+        bool operator==(const Stamp&) const = default;
+    };
+    Stamp stamp() const;
     // The same for the working ledger (DummyTracker) alone: every statement that writes it names
     // it, so writes elsewhere leave this stamp as it was.
     long long ledgerStamp() const { return ledgerWrites_ + undone_; }
+    // This connection among all opened in the process: stamps are its own.
+    unsigned long long serial() const { return serial_; }
     // Writes to the working ledger that may wait: they run just before the next statement that
     // could see them (one that writes the ledger, or reads a column they write, or all of a
     // row), before a step that may be undone, and as a later deferral comes in. Called with
@@ -100,6 +108,7 @@ private:
     friend class AllOrNothing;
     explicit Store(sqlite3* db);
     sqlite3* db_;
+    unsigned long long serial_;
     long long undone_ = 0; // rollbacks seen: they change rows without counting as changes
     long long ledgerWrites_ = 0;
     std::function<void(bool)> deferred_;

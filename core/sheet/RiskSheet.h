@@ -4,6 +4,7 @@
 // two instances of this one class; the kind chooses the model (the 100-step tree or closed-form
 // Black-Scholes) and the smaller field set of the index sheet. The live state is the text of the
 // fields and cells: every procedure reads text, converts, computes and writes text back.
+#include "frame/Store.h"
 #include "pricing/IndexEngine.h"
 #include "pricing/StockEngine.h"
 #include "sheet/SheetScreen.h"
@@ -297,16 +298,16 @@ private:
     std::shared_ptr<WaitingSeries> waiting_ = std::make_shared<WaitingSeries>();
 
     // The statement texts UpdateTracker last wrote per series, and the store's change stamp
-    // after them (-1 while a write is under way).
+    // after them (none while a write is under way).
     struct WrittenSeries {
-        long long stamp = -1;
+        std::optional<Store::Stamp> stamp;
         std::map<std::string, std::vector<std::string>> texts;
     };
 
     SheetKind kind_;
     WrittenSeries written_;
     std::map<std::string, LedgerTotals> totals_;
-    long long totalsStamp_ = -1;
+    std::optional<Store::Stamp> totalsStamp_;
     pricing::StockEngine stock_;
     pricing::IndexEngine index_;
     bool settingPicker_ = false;

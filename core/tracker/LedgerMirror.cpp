@@ -134,7 +134,14 @@ double StoreNumber::orZero() const {
 }
 
 bool LedgerMirror::load(Store& store, const std::string& key) {
-    store_ = nullptr;
+    // Writes still waiting run first: they may end in keep(), which must not mark a half-read
+    // mirror as whole.
+    store.runDeferredWrites();
+    const std::pair<unsigned long long, long long> now{store.serial(), store.ledgerStamp()};
+    if (refused_ == now && refusedKey_ == key) return false;
+    store_ = 0;
+    refused_ = now;
+    refusedKey_ = key;
     rows_.clear();
     Recordset rs =
         store.query("select CP, Strike, Units, Traded, Last, DumThVal, Delta from dummytracker where " + key);
@@ -164,16 +171,17 @@ bool LedgerMirror::load(Store& store, const std::string& key) {
             seriesRows_[{folded(*rows_[first].cp), asReal(rows_[first].strike)}] = {first, end};
     }
     key_ = key;
+    refused_ = {};
     keep(store);
     return true;
 }
 
 bool LedgerMirror::holds(const Store& store, const std::string& key) const {
-    return store_ == &store && key_ == key && stamp_ == store.ledgerStamp();
+    return store_ == store.serial() && key_ == key && stamp_ == store.ledgerStamp();
 }
 
 void LedgerMirror::keep(const Store& store) {
-    store_ = &store;
+    store_ = store.serial();
     stamp_ = store.ledgerStamp();
 }
 

@@ -38,7 +38,8 @@ struct OptionTotals {
 class LedgerMirror {
 public:
     // Holds the rows under `key` as the store has them now. False when a row holds what the
-    // mirror does not reckon with (a text where a number belongs): the statements then run.
+    // mirror does not reckon with (a text where a number belongs): the statements then run, and
+    // the rows are not read again for the mirror until the ledger changes.
     bool load(Store& store, const std::string& key);
     // True while it holds the rows under `key` of this store as they stand.
     bool holds(const Store& store, const std::string& key) const;
@@ -61,8 +62,10 @@ private:
     // Where each series' rows stand (the index keeps them together): by side in capitals, strike.
     std::map<std::pair<std::string, double>, std::pair<size_t, size_t>> seriesRows_;
     std::string key_;
-    const Store* store_ = nullptr;
+    unsigned long long store_ = 0; // the store's serial; 0 while it holds nothing
     long long stamp_ = -1;
+    std::pair<unsigned long long, long long> refused_{0, -1}; // the ledger as a load last refused it
+    std::string refusedKey_;
 };
 
 } // namespace tallimark

@@ -9,7 +9,7 @@
 namespace tallimark {
 
 RiskSheet::LedgerTotals& RiskSheet::ledgerTotals(const std::string& key) {
-    const long long stamp = app().store().changeStamp() + app().store().ledgerStamp();
+    const Store::Stamp stamp = app().store().stamp();
     if (stamp != totalsStamp_) {
         totals_.clear();
         totalsStamp_ = stamp;

@@ -91,9 +91,8 @@ void RiskSheet::UpdateTracker() {
         WriteGroup group(store, WriteGroup::Rows::Working);
         // While no row has changed since the last of these writes, a series whose figures stand
         // as then written would be written again to the same values: it is left as it is.
-        const long long stamp = store.changeStamp() + store.ledgerStamp();
-        if (written_.stamp != stamp) written_.texts.clear();
-        written_.stamp = -1;
+        if (written_.stamp != store.stamp()) written_.texts.clear();
+        written_.stamp.reset();
         // A flat series is left out: its rows keep the values of its last open moment, from
         // which its realised result is worked out.
         const int last = lastLadderRow();
@@ -142,7 +141,7 @@ void RiskSheet::UpdateTracker() {
                 state->mirror.keep(store);
             });
         }
-        written_.stamp = store.changeStamp() + store.ledgerStamp();
+        written_.stamp = store.stamp();
         totals_.clear(); // waiting writes change no stamp: the sums are read anew from the mirror
     });
 }
