@@ -8,17 +8,16 @@
 #include "pricing/FrmCalc.h"
 #include "sheet/RiskSheet.h"
 
-#include <QGroupBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTableWidget>
 #include <QToolTip>
 #include <QtTest>
+
+#include <functional>
 
 using namespace tallimark;
 
@@ -45,7 +44,7 @@ private slots:
     void init() { desk = std::make_unique<test::GuiDesk>(); }
     void cleanup() { desk.reset(); }
 
-    void theLadderIsADenseBlackGridInTheSidesColours() {
+    void theStockSheetShowsItsLadderAndFieldsAndSavesFromTheToolbarOrCtrlS() {
         QWidget* view = open(test::kSavedSheets[0]);
         QVERIFY(view);
         auto* va1 = child<QTableWidget>(view, "va1");
@@ -54,7 +53,6 @@ private slots:
         QVERIFY(va1->isColumnHidden(7));
         QVERIFY(va1->isColumnHidden(15));
         QVERIFY(!va1->isColumnHidden(6));
-        QCOMPARE(va1->horizontalHeaderItem(0)->text(), "Strikes");
         QVERIFY(va1->isRowHidden(0)); // the heading row of the desk's grid, empty here
         QCOMPARE(va1->palette().color(QPalette::Base), QColor(Qt::black));
         // Row 4 is 980 C holding 15, row 3 960 P sold 6 (SheetScenarios.h).
@@ -63,24 +61,19 @@ private slots:
         QCOMPARE(va1->item(2, 0)->foreground().color(), QColor(0, 255, 0));
         QCOMPARE(va1->item(3, 2)->foreground().color(), QColor(0, 255, 255));
         QCOMPARE(va1->item(2, 2)->foreground().color(), QColor(255, 0, 0));
-    }
-
-    void theFieldsStandWithTheirCaptionsAndTheCommandsWithTheirKeys() {
-        QWidget* view = open(test::kSavedSheets[0]);
-        QVERIFY(view);
         QCOMPARE(child<QLabel>(view, "Label_txtdelneutral")->text(), "DELTA NEUTRAL");
-        QCOMPARE(child<QGroupBox>(view, "FraPosition")->title(), "Future/Stock");
-        QCOMPARE(child(view, "TxtMktPrice")->text(), "1010");
         QVERIFY(child(view, "TxtMargin"));
-        const char* keys[] = {"Save",   "Option",   "UnderLying", "Cash",  "Trade Tracker",
-                              "Upload", "Simulate", "Graph",      "Print", "Exit"};
-        for (int i = 1; i <= 10; ++i) {
-            auto* button = view->findChild<QPushButton*>(QString("Toolbar1(%1)").arg(i));
-            QVERIFY(button);
-            QCOMPARE(button->text(), keys[i - 1]);
+
+        // Ctrl+S works from a locked field too.
+        const std::function<void()> saves[] = {
+            [&] { child<QPushButton>(view, "Toolbar1(1)")->click(); },
+            [&] { QTest::keyClick(child(view, "TxtNet"), Qt::Key_S, Qt::ControlModifier); }};
+        for (const auto& save : saves) {
+            desk->app.store().execute("delete from PortfolioDet");
+            save();
+            QCOMPARE(desk->app.store().query("select count(*) from PortfolioDet").at(0).number(), 10.0);
         }
-        QCOMPARE(view->findChild<QAction*>("mnuexit")->text(), "E&xit");
-        QCOMPARE(view->findChild<QAction*>("mnuoption")->text(), "&Option\tAlt+O");
+        QVERIFY(desk->boxes.empty());
     }
 
     void inTheFrameItsMenuStandsInTheBarItsAltKeysAreItsOwnAndASaveIsTold() {
@@ -91,8 +84,6 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(frame));
         const QList<QAction*> heads = frame->menuBar()->actions();
         QCOMPARE(heads.size(), 1);
-        QCOMPARE(heads[0]->text(), "&File");
-        QCOMPARE(heads[0]->menu()->actions()[1]->text(), "&Option\tAlt+O");
 
         QLineEdit* days = child(view, "TxtDays");
         days->setFocus(Qt::OtherFocusReason);
@@ -110,7 +101,6 @@ private slots:
 
         desk->app.screens().get<FrmCalc>().show();
         QCOMPARE(frame->menuBar()->actions().size(), 3);
-        QCOMPARE(frame->menuBar()->actions()[1]->text(), "&Master");
     }
 
     void aFieldEnteredIsRetypedAndACellTakesOneEnterLegibly() {
@@ -153,19 +143,7 @@ private slots:
         QCOMPARE(child<QLabel>(view, "Label_txtdelneutral")->text(), "To be DELTA NEUTRAL");
         QVERIFY(!child(view, "TxtMargin"));
         QVERIFY(!child(view, "TxtTotDel"));
-        QCOMPARE(child<QPushButton>(view, "cmdExl")->text(), "Excel");
-    }
-
-    void saveFromTheToolbarAndCtrlSFromAField() {
-        QWidget* view = open(test::kSavedSheets[0]);
-        QVERIFY(view);
-        desk->app.store().execute("delete from PortfolioDet");
-        child<QPushButton>(view, "Toolbar1(1)")->click();
-        QCOMPARE(desk->app.store().query("select count(*) from PortfolioDet").at(0).number(), 10.0);
-        desk->app.store().execute("delete from PortfolioDet");
-        QTest::keyClick(child(view, "TxtNet"), Qt::Key_S, Qt::ControlModifier);
-        QCOMPARE(desk->app.store().query("select count(*) from PortfolioDet").at(0).number(), 10.0);
-        QVERIFY(desk->boxes.empty());
+        QVERIFY(child<QPushButton>(view, "cmdExl"));
     }
 
     void f7AsksForStrikesBesideTheirCountsAndWidensTheLadder() {
@@ -173,27 +151,20 @@ private slots:
         QVERIFY(view);
         auto* va1 = child<QTableWidget>(view, "va1");
         const int rows = va1->rowCount();
-        QString title, aboveCaption;
         bool captionBesideField = false;
         QTimer::singleShot(0, [&] {
             QWidget* dialog = QApplication::activeModalWidget();
             if (!dialog) return;
-            title = dialog->windowTitle();
             auto* label = child<QLabel>(dialog, "Label1");
             auto* above = child(dialog, "TxtAbove");
-            aboveCaption = label->text();
             captionBesideField =
                 std::abs(label->geometry().center().y() - above->geometry().center().y()) < 4;
-            if (qEnvironmentVariableIsSet("TALLIMARK_VIEW_SHOT"))
-                dialog->grab().save(qEnvironmentVariable("TALLIMARK_VIEW_SHOT") + "/strike-setting.png");
             above->selectAll();
             QTest::keyClicks(above, "2");
             child<QPushButton>(dialog, "Command1")->click();
         });
         va1->setFocus();
         QTest::keyClick(va1, Qt::Key_F7);
-        QCOMPARE(title, "Strike Setting");
-        QCOMPARE(aboveCaption, "2 Number Of Strike Above  ");
         QVERIFY(captionBesideField);
         QCOMPARE(va1->rowCount(), rows + 4);
         QVERIFY(desk->boxes.empty());
