@@ -98,7 +98,6 @@ private slots:
 
     // Model to widgets.
     void showsTheModelsState() {
-        QCOMPARE(widget<QLineEdit>("txtName")->text(), "first");
         QCOMPARE(widget<QPushButton>("cmdGo")->text(), "&Go");
 
         sample->setText("lblNote", "changed F & O && &Go"); // an "&" before a blank stands as written

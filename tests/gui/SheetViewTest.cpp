@@ -33,10 +33,6 @@ class SheetViewTest : public QObject {
         sheet.save(desk->app.store());
         QWidget* view = desk->ui.viewOf(test::openSheet(desk->app, sheet.kind, sheet.symbol(), sheet.desc()));
         if (view) (void)QTest::qWaitForWindowExposed(view->window());
-        // A look at the screen for the one building it: TALLIMARK_VIEW_SHOT=folder.
-        if (view && qEnvironmentVariableIsSet("TALLIMARK_VIEW_SHOT"))
-            view->window()->grab().save(qEnvironmentVariable("TALLIMARK_VIEW_SHOT") + "/" + sheet.name +
-                                        ".png");
         return view;
     }
 
@@ -64,14 +60,15 @@ private slots:
         QCOMPARE(child<QLabel>(view, "Label_txtdelneutral")->text(), "DELTA NEUTRAL");
         QVERIFY(child(view, "TxtMargin"));
 
-        // Ctrl+S works from a locked field too.
-        const std::function<void()> saves[] = {
-            [&] { child<QPushButton>(view, "Toolbar1(1)")->click(); },
-            [&] { QTest::keyClick(child(view, "TxtNet"), Qt::Key_S, Qt::ControlModifier); }};
-        for (const auto& save : saves) {
+        const std::pair<const char*, std::function<void()>> saves[] = {
+            {"the toolbar's Save", [&] { child<QPushButton>(view, "Toolbar1(1)")->click(); }},
+            {"Ctrl+S in the locked TxtNet",
+             [&] { QTest::keyClick(child(view, "TxtNet"), Qt::Key_S, Qt::ControlModifier); }}};
+        for (const auto& [how, save] : saves) {
             desk->app.store().execute("delete from PortfolioDet");
             save();
-            QCOMPARE(desk->app.store().query("select count(*) from PortfolioDet").at(0).number(), 10.0);
+            QVERIFY2(desk->app.store().query("select count(*) from PortfolioDet").at(0).number() == 10.0,
+                     how);
         }
         QVERIFY(desk->boxes.empty());
     }
