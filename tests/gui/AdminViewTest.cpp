@@ -86,7 +86,7 @@ private slots:
         QVERIFY(desk->ui.viewOf(*desk->app.screens().find("FrmCreatePon")));
     }
 
-    void aNewSheetIsBuiltFromTheScriptAndTheMonth() {
+    void aNewSheetIsBuiltFromTheScriptTheMonthAndTheExpiry() {
         FrmNewScript& screen = desk->app.screens().get<FrmNewScript>();
         QWidget* view = show(screen);
         QVERIFY(view);
@@ -114,7 +114,8 @@ private slots:
         QTest::keyClick(month, Qt::Key_Tab);
         QCOMPARE(child(view, "TxtInSymbol")->text(), "RILA2026");
         QCOMPARE(desc->text(), "JANUARY For ");
-        QCOMPARE(child(view, "DTPicker1")->text(), "29-Jan-26");
+        QLineEdit* date = child(view, "DTPicker1");
+        QCOMPARE(date->text(), "29-Jan-26");
 
         QLineEdit* rate = child(view, "TxtDRate");
         rate->setFocus(Qt::OtherFocusReason);
@@ -123,24 +124,17 @@ private slots:
         QCOMPARE(rate->text(), "12.00%");
         QVERIFY(desk->boxes.empty());
 
-        QTest::keyClick(rate, Qt::Key_Escape);
-        QVERIFY(!desk->app.screens().find(FrmNewScript::kName));
-    }
-
-    void theExpiryTakesTheDesksDateFormsOrTheCalendarAndRefusesTheRest() {
-        FrmNewScript& screen = desk->app.screens().get<FrmNewScript>();
-        QWidget* view = show(screen);
-        QLineEdit* date = child(view, "DTPicker1");
+        // The expiry takes the desk's date forms or the calendar, and refuses the rest.
         const std::pair<const char*, const char*> typed[] = {
             {"23-11-2026", "23-Nov-26"}, {"01-Dec-26", "01-Dec-26"},  {"23/11/2026", "23-Nov-26"},
             {"2026-11-23", "23-Nov-26"}, {"31-11-2026", "23-Nov-26"}, {"01.12.2026", "23-Nov-26"}};
         for (const auto& [text, held] : typed) {
+            date->clearFocus(); // each date typed into a field entered afresh
             QTest::mouseClick(date, Qt::LeftButton);
             QTest::keyClicks(date, text);
             QTest::keyClick(date, Qt::Key_Return);
             QCOMPARE(screen.text("DTPicker1"), held);
             QCOMPARE(date->text(), held);
-            date->clearFocus();
         }
         QCOMPARE(desk->boxes.size(), size_t(3));
         QCOMPARE(desk->boxes[0].text, kDeskDateForms);
@@ -154,6 +148,9 @@ private slots:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QCOMPARE(screen.text("DTPicker1"), "24-Nov-26");
+
+        QTest::keyClick(rate, Qt::Key_Escape);
+        QVERIFY(!desk->app.screens().find(FrmNewScript::kName));
     }
 };
 
