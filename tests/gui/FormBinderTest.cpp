@@ -124,7 +124,7 @@ private slots:
     }
 
     // Keys and typing.
-    void typingGoesThroughTheKeyHandlersAndFiresChange() {
+    void typingGoesThroughTheKeyHandlersWhichReadTheDesksCodes() {
         sample->hear("txtCode", EventType::Change);
         sample->on("txtCode", EventType::KeyPress, [](Event& e) {
             if (e.keyAscii == '-') e.keyAscii = 0;
@@ -136,17 +136,17 @@ private slots:
         QTest::keyClicks(widget<QLineEdit>("txtCode"), "n1x-2y");
         QCOMPARE(sample->text("txtCode"), "N12Y");
         QCOMPARE(sample->heard.size(), size_t(4));
-    }
 
-    void keyHandlersReadTheDesksCodes() {
-        sample->hear("txtCode", EventType::KeyDown);
-        sample->hear("txtCode", EventType::KeyPress);
-        QLineEdit* code = widget<QLineEdit>("txtCode");
-        QTest::keyClick(code, Qt::Key_A);
-        QTest::keyClick(code, Qt::Key_F1);
-        QTest::keyClick(code, Qt::Key_PageDown, Qt::ShiftModifier);
-        QTest::keyClick(code, Qt::Key_Up, Qt::ControlModifier);
-        QTest::keyClick(code, Qt::Key_Return);
+        // What the handlers read, in the desk's codes, kept from a field of their own.
+        sample->heard.clear();
+        sample->hear("txtName", EventType::KeyDown);
+        sample->hear("txtName", EventType::KeyPress);
+        QLineEdit* field = widget<QLineEdit>("txtName");
+        QTest::keyClick(field, Qt::Key_A);
+        QTest::keyClick(field, Qt::Key_F1);
+        QTest::keyClick(field, Qt::Key_PageDown, Qt::ShiftModifier);
+        QTest::keyClick(field, Qt::Key_Up, Qt::ControlModifier);
+        QTest::keyClick(field, Qt::Key_Return);
 
         std::vector<std::tuple<EventType, int, int>> got;
         for (const Heard& h : sample->heard)
@@ -197,8 +197,7 @@ private slots:
         emit widget<QComboBox>("cboMonth")->activated(1);
 
         QCOMPARE(sample->heard.size(), size_t(3));
-        QCOMPARE(sample->heard[0].control, "cmdGo");
-        QCOMPARE(sample->heard[1].control, "cmdGo");
+        QVERIFY(sample->heard[0].control == "cmdGo" && sample->heard[1].control == "cmdGo");
         QVERIFY(sample->control("chkHeld").value);
         QVERIFY(!sample->control("optType(0)").value);
         QVERIFY(sample->control("optType(1)").value);
