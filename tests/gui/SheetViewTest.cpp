@@ -40,15 +40,13 @@ private slots:
     void init() { desk = std::make_unique<test::GuiDesk>(); }
     void cleanup() { desk.reset(); }
 
-    void theStockSheetShowsItsLadderAndFieldsAndSavesFromTheToolbarOrCtrlS() {
+    void theStockSheetShowsItsLadderAndFieldsSavesAndWidensItsLadderOnF7() {
         QWidget* view = open(test::kSavedSheets[0]);
         QVERIFY(view);
         auto* va1 = child<QTableWidget>(view, "va1");
         QVERIFY(va1);
         QCOMPARE(va1->columnCount(), 16);
-        QVERIFY(va1->isColumnHidden(7));
-        QVERIFY(va1->isColumnHidden(15));
-        QVERIFY(!va1->isColumnHidden(6));
+        QVERIFY(va1->isColumnHidden(7) && va1->isColumnHidden(15) && !va1->isColumnHidden(6));
         QVERIFY(va1->isRowHidden(0)); // the heading row of the desk's grid, empty here
         QCOMPARE(va1->palette().color(QPalette::Base), QColor(Qt::black));
         // Row 4 is 980 C holding 15, row 3 960 P sold 6 (SheetScenarios.h).
@@ -70,6 +68,25 @@ private slots:
             QVERIFY2(desk->app.store().query("select count(*) from PortfolioDet").at(0).number() == 10.0,
                      how);
         }
+
+        // F7 asks for strikes, each count beside its caption, and widens the ladder.
+        const int rows = va1->rowCount();
+        bool captionBesideField = false;
+        QTimer::singleShot(0, [&] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            if (!dialog) return;
+            auto* label = child<QLabel>(dialog, "Label1");
+            auto* above = child(dialog, "TxtAbove");
+            captionBesideField =
+                std::abs(label->geometry().center().y() - above->geometry().center().y()) < 4;
+            above->selectAll();
+            QTest::keyClicks(above, "2");
+            child<QPushButton>(dialog, "Command1")->click();
+        });
+        va1->setFocus();
+        QTest::keyClick(va1, Qt::Key_F7);
+        QVERIFY(captionBesideField);
+        QCOMPARE(va1->rowCount(), rows + 4);
         QVERIFY(desk->boxes.empty());
     }
 
@@ -131,33 +148,8 @@ private slots:
         QWidget* view = open(test::kSavedSheets[2]);
         QVERIFY(view);
         QCOMPARE(child<QLabel>(view, "Label_txtdelneutral")->text(), "To be DELTA NEUTRAL");
-        QVERIFY(!child(view, "TxtMargin"));
-        QVERIFY(!child(view, "TxtTotDel"));
+        QVERIFY(!child(view, "TxtMargin") && !child(view, "TxtTotDel"));
         QVERIFY(child<QPushButton>(view, "cmdExl"));
-    }
-
-    void f7AsksForStrikesBesideTheirCountsAndWidensTheLadder() {
-        QWidget* view = open(test::kSavedSheets[0]);
-        QVERIFY(view);
-        auto* va1 = child<QTableWidget>(view, "va1");
-        const int rows = va1->rowCount();
-        bool captionBesideField = false;
-        QTimer::singleShot(0, [&] {
-            QWidget* dialog = QApplication::activeModalWidget();
-            if (!dialog) return;
-            auto* label = child<QLabel>(dialog, "Label1");
-            auto* above = child(dialog, "TxtAbove");
-            captionBesideField =
-                std::abs(label->geometry().center().y() - above->geometry().center().y()) < 4;
-            above->selectAll();
-            QTest::keyClicks(above, "2");
-            child<QPushButton>(dialog, "Command1")->click();
-        });
-        va1->setFocus();
-        QTest::keyClick(va1, Qt::Key_F7);
-        QVERIFY(captionBesideField);
-        QCOMPARE(va1->rowCount(), rows + 4);
-        QVERIFY(desk->boxes.empty());
     }
 };
 
