@@ -7,8 +7,6 @@
 #include "frame/DeskDate.h"
 
 #include <QComboBox>
-#include <QGroupBox>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -51,16 +49,11 @@ private slots:
         addSheet("RILZ2026", "DECEMBER For B", "21-11-2026");
         QWidget* view = show(desk->app.screens().get<FrmNewMainScreen>());
         QVERIFY(view);
-        QCOMPARE(view->windowTitle(), "Main Screen");
         auto* list = child<QTableWidget>(view, "ListView1");
         QCOMPARE(list->rowCount(), 2);
-        QCOMPARE(list->horizontalHeaderItem(2)->text(), "Refresh Date");
         QCOMPARE(list->item(1, 0)->text(), "RILZ2026");
-        QCOMPARE(list->item(1, 2)->text(), "21-11-2026");
-        QVERIFY(list->item(0, 0)->flags().testFlag(Qt::ItemIsUserCheckable));
         QVERIFY(list->item(0, 0)->data(Qt::CheckStateRole).isValid()); // an unticked row shows its box
         QVERIFY(!list->item(0, 1)->flags().testFlag(Qt::ItemIsEditable));
-        QCOMPARE(child<QPushButton>(view, "Command2")->text(), "Pos &File");
 
         const QRect cell = list->visualRect(list->model()->index(1, 1));
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
@@ -92,12 +85,10 @@ private slots:
         QVERIFY(desk->ui.viewOf(*desk->app.screens().find("FrmCreatePon")));
     }
 
-    void aNewSheetIsBuiltFromTheScriptAndTheMonth() {
+    void aNewSheetIsBuiltFromTheScriptTheMonthAndTheExpiry() {
         FrmNewScript& screen = desk->app.screens().get<FrmNewScript>();
         QWidget* view = show(screen);
         QVERIFY(view);
-        QCOMPARE(view->windowTitle(), "New Sheet Detail.........By Tallimark");
-        QCOMPARE(child<QGroupBox>(view, "Frame1")->title(), "Type");
         auto* futures = child<QRadioButton>(view, "OptInType(0)");
         auto* stock = child<QRadioButton>(view, "OptInType(1)");
         QVERIFY(stock->isChecked() && !futures->isChecked());
@@ -112,19 +103,18 @@ private slots:
         QVERIFY(stock->isChecked());
 
         auto* script = child<QComboBox>(view, "DataCombo1");
-        QCOMPARE(script->count(), 1);
         script->setFocus(Qt::OtherFocusReason);
         QTest::keyClicks(script->lineEdit(), "RELIANCE");
         QCOMPARE(child(view, "TxtRateDiff")->text(), "2.5");
 
         auto* month = child<QComboBox>(view, "Combo1");
-        QCOMPARE(month->count(), 12);
         month->setFocus(Qt::OtherFocusReason);
         QTest::keyClick(month, Qt::Key_Down); // JANUARY
         QTest::keyClick(month, Qt::Key_Tab);
         QCOMPARE(child(view, "TxtInSymbol")->text(), "RILA2026");
         QCOMPARE(desc->text(), "JANUARY For ");
-        QCOMPARE(child(view, "DTPicker1")->text(), "29-Jan-26");
+        QLineEdit* date = child(view, "DTPicker1");
+        QCOMPARE(date->text(), "29-Jan-26");
 
         QLineEdit* rate = child(view, "TxtDRate");
         rate->setFocus(Qt::OtherFocusReason);
@@ -133,24 +123,17 @@ private slots:
         QCOMPARE(rate->text(), "12.00%");
         QVERIFY(desk->boxes.empty());
 
-        QTest::keyClick(rate, Qt::Key_Escape);
-        QVERIFY(!desk->app.screens().find(FrmNewScript::kName));
-    }
-
-    void theExpiryTakesTheDesksDateFormsOrTheCalendarAndRefusesTheRest() {
-        FrmNewScript& screen = desk->app.screens().get<FrmNewScript>();
-        QWidget* view = show(screen);
-        QLineEdit* date = child(view, "DTPicker1");
+        // The expiry takes the desk's date forms or the calendar, and refuses the rest.
         const std::pair<const char*, const char*> typed[] = {
             {"23-11-2026", "23-Nov-26"}, {"01-Dec-26", "01-Dec-26"},  {"23/11/2026", "23-Nov-26"},
             {"2026-11-23", "23-Nov-26"}, {"31-11-2026", "23-Nov-26"}, {"01.12.2026", "23-Nov-26"}};
         for (const auto& [text, held] : typed) {
+            date->clearFocus(); // each date typed into a field entered afresh
             QTest::mouseClick(date, Qt::LeftButton);
             QTest::keyClicks(date, text);
             QTest::keyClick(date, Qt::Key_Return);
             QCOMPARE(screen.text("DTPicker1"), held);
             QCOMPARE(date->text(), held);
-            date->clearFocus();
         }
         QCOMPARE(desk->boxes.size(), size_t(3));
         QCOMPARE(desk->boxes[0].text, kDeskDateForms);
@@ -164,6 +147,9 @@ private slots:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         QCOMPARE(screen.text("DTPicker1"), "24-Nov-26");
+
+        QTest::keyClick(rate, Qt::Key_Escape);
+        QVERIFY(!desk->app.screens().find(FrmNewScript::kName));
     }
 };
 
