@@ -35,27 +35,22 @@ TEST(TradeFile, LinesSplitAndReadAsTheUploadDoes) {
     TradeLine t;
     const struct {
         std::string text;
-        int32_t units;
-        const char *cp, *cashType;
+        const char* read; // units, call or put, cash type, and whether it belongs to the sheet
         double strike;
-        bool belongs;
     } cases[] = {
-        {line("1", "OPTSTK", "980.00", "CE", "2", "10", "5"), -10, "C", "", 980, true},
-        {line("2", "OPTSTK", "1000", "PE", "3", "99", "5"), -10, "P", "", 1000,
-         true}, // code 3 keeps the units
-        {line("3", "FUTSTK", "", "XX", "1", "250", "1012.5"), 250, "S", "F", 0, true},
-        {line("4", "OPTSTK", "980", "CE", "1", "5", "5", "24 NOV 2026"), 5, "C", "F", 980,
-         false}, // cash type stays
-        {line("5", "OPTSTK", "980", "CE", "1", "5", "5", "23 NOV 2026", "TCS"), 5, "C", "F", 980, false},
+        {line("1", "OPTSTK", "980.00", "CE", "2", "10", "5"), "-10 C  in", 980},
+        {line("2", "OPTSTK", "1000", "PE", "3", "99", "5"), "-10 P  in", 1000}, // code 3 keeps the units
+        {line("3", "FUTSTK", "", "XX", "1", "250", "1012.5"), "250 S F in", 0},
+        {line("4", "OPTSTK", "980", "CE", "1", "5", "5", "24 NOV 2026"), "5 C F out", 980}, // cash type stays
+        {line("5", "OPTSTK", "980", "CE", "1", "5", "5", "23 NOV 2026", "TCS"), "5 C F out", 980},
     };
     for (const auto& c : cases) {
         splitTradeLine(c.text, TradeLayout::FutStk, row);
         interpretTradeRow(row, TradeLayout::FutStk, filter, t);
-        EXPECT_EQ(t.Units, c.units) << c.text;
-        EXPECT_EQ(t.CP, c.cp) << c.text;
-        EXPECT_EQ(t.CashType, c.cashType) << c.text;
+        EXPECT_EQ(std::to_string(t.Units) + " " + t.CP + " " + t.CashType + (t.belongs ? " in" : " out"),
+                  c.read)
+            << c.text;
         EXPECT_EQ(t.Strike, c.strike) << c.text;
-        EXPECT_EQ(t.belongs, c.belongs) << c.text;
     }
     EXPECT_EQ(t.TrdTime, "10:15:32");
     EXPECT_EQ(t.TrdDate, "23-Nov-2026");
@@ -125,17 +120,16 @@ TEST(Upload, BadFilesMeetTheirBoxAndLeaveTheLedger) {
          "Error in AppendProc Procedure: Type mismatch and No: 13", 0},
         {"no final line end", good + "\r\n" + line("22", "OPTSTK", "980", "CE", "1", "5", "20"),
          "Uploading in progress", 2},
+        {"missing", "", "Error in AppendProc Procedure: File not found and No: 53", 0},
     };
     for (const auto& c : cases) {
         UploadDesk d;
         const double before = d.count("1=1");
-        d.upload(d.file("f.txt", c.text));
+        d.upload(c.name == std::string("missing") ? (d.dir.path() / "missing.txt").string()
+                                                  : d.file("f.txt", c.text));
         EXPECT_EQ(d.boxTexts().front(), c.box) << c.name;
         EXPECT_EQ(d.count("1=1"), before + c.taken) << c.name;
     }
-    UploadDesk d;
-    d.upload((d.dir.path() / "missing.txt").string());
-    EXPECT_EQ(d.boxTexts().front(), "Error in AppendProc Procedure: File not found and No: 53");
 }
 
 // Every ledger row, field and ladder cell the application leaves.
