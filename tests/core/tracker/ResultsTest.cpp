@@ -55,9 +55,7 @@ TEST(Results, ASeriesShowsItsNetUnitsAtTheNetMoneyAverage) {
         d.s.va1().activeRow = 4;
         d.s.CalcAvgOption();
         EXPECT_EQ(d.s.va1().text(4, 3) + " " + d.s.va1().text(4, 4), c.shown);
-        if (c.colour) {
-            EXPECT_EQ(d.s.va1().cell(4, 3).fore, c.colour);
-        }
+        EXPECT_EQ(c.colour ? d.s.va1().cell(4, 3).fore : c.colour, c.colour) << c.shown;
     }
 }
 
