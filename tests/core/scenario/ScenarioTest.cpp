@@ -28,6 +28,15 @@ std::string field(const SavedSheet& sheet, const std::string& name) {
     return "<none>";
 }
 
+// Ticks the first two sheets of the main screen's list and asks for their comparison.
+void compareFirstTwo(SheetDesk& desk) {
+    auto& main = desk.app.screens().get<FrmNewMainScreen>();
+    main.load();
+    main.grid("ListView1").setChecked(1, true);
+    main.grid("ListView1").setChecked(2, true);
+    main.fire("CmdTwoContract", EventType::Click);
+}
+
 TEST(Simulation, EachSavedSheetAtEveryStrikeAndASecondRunBelowTheFirst) {
     // The working in scenario_figures.py covers the first four saved sheets.
     for (size_t k = 0; k < std::size(kExpected); ++k) {
@@ -53,29 +62,23 @@ TEST(TwoContract, TwoSheetsOfOneScriptAddUpAndGraphAtTheFirstsStrikes) {
     SheetDesk desk;
     kSavedSheets[0].save(desk.app.store());
     // A second expiry: the same sheet under another description.
-    for (const auto& [table, desc] : {std::pair{"Trans", "InDesc"},
-                                      {"PortfolioMast", "Descr"},
-                                      {"PortfolioDet", "Descr"},
-                                      {"Tracker", "InDesc"}})
+    const std::pair<const char*, const char*> described[] = {
+        {"Trans", "InDesc"}, {"PortfolioMast", "Descr"}, {"PortfolioDet", "Descr"}, {"Tracker", "InDesc"}};
+    for (const auto& [table, desc] : described)
         for (const std::string& sql :
              {std::string("create temp table c as select * from ") + table,
               std::string("update c set ") + desc + " = 'DEC'",
               std::string("insert into ") + table + " select * from c", std::string("drop table c")})
             desk.app.store().execute(sql);
-    auto& main = desk.app.screens().get<FrmNewMainScreen>();
-    main.load();
-    main.grid("ListView1").setChecked(1, true);
-    main.grid("ListView1").setChecked(2, true);
-    main.fire("CmdTwoContract", EventType::Click);
+    compareFirstTwo(desk);
     auto& two = desk.app.screens().get<FrmTwoContract>();
     ASSERT_TRUE(two.visible());
-    EXPECT_EQ(two.text("txtDays1"), "17");
-    EXPECT_EQ(two.text("txtdelneutral"), "6");
+    EXPECT_EQ(two.text("txtDays1") + " " + two.text("txtdelneutral"), "17 6");
     two.fire("CmdCalculate", EventType::Click);
     const SavedSheet& live = kSavedSheets[0];
     for (const char* f : {"TxtDelVal", "TxtGamVal", "TxtVegaVal", "TxtTheVal"}) {
-        EXPECT_EQ(two.text(std::string(f) + "1"), field(live, f)) << f;
-        EXPECT_EQ(two.text(std::string(f) + "2"), field(live, f)) << f;
+        EXPECT_EQ(two.text(std::string(f) + "1") + " " + two.text(std::string(f) + "2"),
+                  field(live, f) + " " + field(live, f));
         EXPECT_DOUBLE_EQ(Val(two.text(std::string(f) + "Tot")), 2 * Val(field(live, f))) << f;
     }
     EXPECT_DOUBLE_EQ(Val(two.text("TxtBal")), 2 * Val(field(live, "TxtBalance")));
@@ -88,7 +91,6 @@ TEST(TwoContract, TwoSheetsOfOneScriptAddUpAndGraphAtTheFirstsStrikes) {
         EXPECT_EQ(Val(two.grid("ListView2").text(r, 3)), 2 * Val(e[2]));
     }
     two.fire("cmdGraph", EventType::Click);
-    EXPECT_EQ(two.text("cmdGraph"), "&Graph");
     EXPECT_FALSE(two.control("PicScore").visible);
     EXPECT_TRUE(desk.boxTexts().empty()) << desk.boxTexts().front();
 }
@@ -96,20 +98,20 @@ TEST(TwoContract, TwoSheetsOfOneScriptAddUpAndGraphAtTheFirstsStrikes) {
 // A ladder and fields made to measure on the open live sheet, then a graph of it.
 struct Edge {
     const char* what;
-    int rows;          // ladder rows kept, from 2
-    bool units;        // the positions kept
-    bool greek;        // the Greek graph rather than the net balance one
-    const char* boxes; // the boxes shown, joined by '|'
+    int rows;                       // ladder rows kept, from 2
+    bool units;                     // the positions kept
+    bool greek;                     // the Greek graph rather than the net balance one
+    std::vector<std::string> boxes; // the boxes shown
 };
 
-TEST(Graphs, EdgesEndInTheRunTimesBoxAndNoCrash) {
+TEST(Graphs, EdgesEndInTheRunTimesBoxAndADaysChangeRefills) {
+    const std::vector<std::string> byZero{"Run-time error '11':\n\nDivision by zero"};
     const Edge edges[] = {
-        {"whole ladder", 10, true, false, ""},
-        {"whole ladder, Greek", 10, true, true, ""},
-        {"one strike: the marker divides by zero", 2, true, false,
-         "Run-time error '11':\n\nDivision by zero"},
-        {"no units: a range below 5", 10, false, false, "Run-time error '11':\n\nDivision by zero"},
-        {"no units, Greek: every cell 0", 10, false, true, "Run-time error '11':\n\nDivision by zero"},
+        {"whole ladder", 10, true, false, {}},
+        {"whole ladder, Greek", 10, true, true, {}},
+        {"one strike: the marker divides by zero", 2, true, false, byZero},
+        {"no units: a range below 5", 10, false, false, byZero},
+        {"no units, Greek: every cell 0", 10, false, true, byZero},
     };
     for (const Edge& e : edges) {
         SheetDesk desk;
@@ -127,45 +129,33 @@ TEST(Graphs, EdgesEndInTheRunTimesBoxAndNoCrash) {
         launcher.setValue(e.greek ? "Option2" : "Option1", true);
         EXPECT_NE(launcher.control("Option1").value, launcher.control("Option2").value) << "one frame";
         launcher.fire("CmdRun", EventType::Click);
-        std::string shown;
-        for (const std::string& t : desk.boxTexts())
-            shown += (shown.empty() ? "" : "|") + t;
-        EXPECT_EQ(shown, e.boxes) << e.what;
+        EXPECT_EQ(desk.boxTexts(), e.boxes) << e.what;
         Form& graph = e.greek ? static_cast<Form&>(desk.app.screens().get<FrmNewGraphGreek>())
                               : desk.app.screens().get<FrmNewGraph>();
         EXPECT_TRUE(graph.visible()) << e.what;
         if (e.greek && !e.units) {
             EXPECT_EQ(graph.grid("ListView1").text(18, 2), "0");
         }
+        if (&e != &edges[0]) continue;
+        // A days change refills the graph; a price below the first row is ignored.
+        graph.setText("TxtDays", "0");
+        pressKey(graph, "TxtDays", keys::Enter);
+        EXPECT_EQ(graph.text("TxtCurDt"), "10-12-2026");
+        for (int r = 1; r <= 5; ++r)
+            EXPECT_EQ(graph.grid("ListView1").text(r, 2), figures::kStockLiveSimulation[r - 1][2])
+                << "both lines equal";
+        graph.setText("TxtMktPrice", "900");
+        pressKey(graph, "TxtMktPrice", keys::Enter);
+        EXPECT_EQ(static_cast<FrmNewGraph&>(graph).LastMkt, 1010);
+        EXPECT_TRUE(desk.boxTexts().empty());
     }
-}
-
-TEST(Graphs, ADaysChangeRefillsAndAPriceBelowTheFirstRowIsIgnored) {
-    LiveSheetDesk desk;
-    desk.s.fire("Toolbar1(8)", EventType::Click);
-    desk.app.screens().get<FrmListGraph>().fire("CmdRun", EventType::Click);
-    auto& graph = desk.app.screens().get<FrmNewGraph>();
-    graph.setText("TxtDays", "0");
-    pressKey(graph, "TxtDays", keys::Enter);
-    EXPECT_EQ(graph.text("TxtCurDt"), "10-12-2026");
-    for (int r = 1; r <= 5; ++r)
-        EXPECT_EQ(graph.grid("ListView1").text(r, 2), figures::kStockLiveSimulation[r - 1][2])
-            << "both lines equal";
-    graph.setText("TxtMktPrice", "900");
-    pressKey(graph, "TxtMktPrice", keys::Enter);
-    EXPECT_EQ(graph.LastMkt, 1010);
-    EXPECT_TRUE(desk.boxTexts().empty());
 }
 
 TEST(TwoContract, SheetsOfTwoTypesAreRefused) {
     SheetDesk desk;
     kSavedSheets[0].save(desk.app.store());
     kSavedSheets[2].save(desk.app.store());
-    auto& main = desk.app.screens().get<FrmNewMainScreen>();
-    main.load();
-    main.grid("ListView1").setChecked(1, true);
-    main.grid("ListView1").setChecked(2, true);
-    main.fire("CmdTwoContract", EventType::Click);
+    compareFirstTwo(desk);
     EXPECT_EQ(desk.boxTexts(), std::vector<std::string>{"Selected Types of Portfolios not same"});
     EXPECT_FALSE(desk.app.screens().get<FrmTwoContract>().visible());
 }
